@@ -1,0 +1,33 @@
+# How our own targets are built. One folder below src/ is one namespace and one library, which sees
+# the headers of what it links and no others.
+
+find_package(Threads REQUIRED)
+
+# What every target of ours is compiled with.
+add_library(pitchsieve_options INTERFACE)
+target_compile_features(pitchsieve_options INTERFACE cxx_std_20)
+target_compile_options(pitchsieve_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2 -Wimplicit-fallthrough
+  $<$<BOOL:${PITCHSIEVE_STRICT}>:-Werror>)
+if(PITCHSIEVE_SANITIZE)
+  set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(pitchsieve_options INTERFACE ${sanitizers})
+  target_link_options(pitchsieve_options INTERFACE ${sanitizers})
+endif()
+
+# add_layer(FOLDER sources... LINKS targets...)
+# The library of src/FOLDER. Its headers are included as "FOLDER/name.h", by itself and by what links
+# it: each library has an include directory of its own in which only its folder stands.
+function(add_layer folder)
+  cmake_parse_arguments(PARSE_ARGV 1 layer "" "" "LINKS")
+  string(REPLACE "/" "_" name ${folder})
+  set(root ${PROJECT_BINARY_DIR}/include/${name})
+  cmake_path(GET folder PARENT_PATH parent)
+  file(MAKE_DIRECTORY ${root}/${parent})
+  file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src/${folder} ${root}/${folder} SYMBOLIC)
+  list(TRANSFORM layer_UNPARSED_ARGUMENTS PREPEND ${folder}/)
+  add_library(${name} STATIC ${layer_UNPARSED_ARGUMENTS})
+  target_include_directories(${name} PUBLIC ${root})
+  target_link_libraries(${name} PUBLIC ${layer_LINKS} PRIVATE pitchsieve_options)
+endfunction()

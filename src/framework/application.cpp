@@ -1,0 +1,68 @@
+#include "framework/application.h"
+
+#include <unistd.h>
+
+#include <climits>
+#include <new>
+
+#include "framework/runtime.h"
+#include "framework/ui_trap.h"
+
+namespace framework {
+
+namespace {
+
+bool supports_hidpi = false;
+void CallWithMemoryFailures(const std::function<void()>& function) {
+  try {
+    function();
+  } catch (const std::bad_alloc&) {
+    RuntimeRaiseException(OutOfMemoryException("The system has no memory left."));
+  }
+}
+
+}  // namespace
+
+void Application::_SetSupportsHiDPI(bool value) { supports_hidpi = value; }
+bool Application::_SupportsHiDPI() { return supports_hidpi; }
+
+void Application::_CallFunctionWithExceptionHandling(const std::function<void()>& function) {
+  try {
+    CallWithMemoryFailures(function);
+  } catch (const EndException&) {
+  } catch (const ThreadEndException&) {
+  } catch (const RuntimeException& failure) {
+    const Ref<Application> app = getAppObject();
+    if (!app || !app->Event_UnhandledException(failure)) UnhandledException(failure);
+  }
+}
+
+Ref<FolderItem> Application::ExecutableFile() const {
+  char path[PATH_MAX];
+  const ssize_t size = readlink("/proc/self/exe", path, sizeof path);
+  if (size <= 0) return nullptr;
+  return GetFolderItem(std::string_view(path, static_cast<std::size_t>(size)));
+}
+
+Ref<framework::MenuBar> Application::MenuBar() const { return menu_bar_; }
+
+void Application::MenuBar(const Ref<framework::MenuBar>& bar) {
+  _UITrap();
+  menu_bar_ = bar;
+}
+
+void Application::_x_SetVersionData(std::int64_t major, std::int64_t minor, std::int64_t bug,
+                                    std::int64_t non_release, std::int64_t stage,
+                                    String long_version, String short_version,
+                                    String package_info) {
+  _x_mMajorVersion = major;
+  _x_mMinorVersion = minor;
+  _x_mBugVersion = bug;
+  _x_mNonReleaseVersion = non_release;
+  _x_mStageCode = stage;
+  _x_mLongVersion = std::move(long_version);
+  _x_mShortVersion = std::move(short_version);
+  _x_mPackageInfo = std::move(package_info);
+}
+
+}  // namespace framework

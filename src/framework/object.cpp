@@ -1,0 +1,16 @@
+#include "framework/object.h"
+
+namespace framework {
+
+Object::~Object() {
+  if (link_ == nullptr) return;
+  link_->object = nullptr;
+  if (link_->holders == 0) delete link_;
+}
+
+Object::WeakLink& Object::Link() {
+  if (link_ == nullptr) link_ = new WeakLink{this, 0};
+  return *link_;
+}
+
+}  // namespace framework

@@ -1,0 +1,63 @@
+#include "framework/text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <string_view>
+
+namespace framework {
+
+namespace {
+
+/// The value's digits in the given base.
+template <class Integer>
+String Digits(Integer value, int base) {
+  std::array<char, 65> digits{};
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value, base).ptr;
+  return std::string_view(digits.data(), static_cast<std::size_t>(end - digits.data()));
+}
+
+constexpr int Folded(char c) {
+  const auto byte = static_cast<unsigned char>(c);
+  return byte >= 'A' && byte <= 'Z' ? byte - 'A' + 'a' : byte;
+}
+
+}  // namespace
+
+Array<String> Split(const String& text, const String& delimiter) {
+  auto parts = CreateArray<String>(-1);
+  std::string_view rest = text.View();
+  const std::string_view cut = delimiter.View();
+  for (auto at = cut.empty() ? rest.npos : rest.find(cut); at != rest.npos; at = rest.find(cut)) {
+    parts.Append(rest.substr(0, at));
+    rest.remove_prefix(at + cut.size());
+  }
+  parts.Append(rest);
+  return parts;
+}
+
+String Str(std::int64_t value) { return Digits(value, 10); }
+
+double Val(const String& text) {
+  std::string_view digits = text.View();
+  digits.remove_prefix(std::min(digits.find_first_not_of(" \t"), digits.size()));
+  if (digits.find_first_of("-.0123456789") != 0) return 0;  // from_chars also reads "nan" and "inf"
+  double value = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  return value;
+}
+
+String Bin(std::int64_t value) { return Digits(static_cast<std::uint64_t>(value), 2); }
+
+std::int32_t RuntimeStringCompare(std::string_view a, std::string_view b) {
+  const std::size_t shared = std::min(a.size(), b.size());
+  for (std::size_t i = 0; i < shared; ++i) {
+    if (const int difference = Folded(a[i]) - Folded(b[i]); difference != 0) return difference;
+  }
+  if (a.size() == b.size()) return 0;
+  return a.size() < b.size() ? -1 : 1;
+}
+
+String RuntimeAddString(const String& a, const String& b) { return {a.View(), b.View()}; }
+
+}  // namespace framework
