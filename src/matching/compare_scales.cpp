@@ -1,0 +1,60 @@
+#include "matching/compare_scales.h"
+
+#include "framework/text.h"
+#include "pitch/mask.h"
+
+namespace matching {
+
+using framework::Listbox;
+using framework::String;
+
+namespace {
+
+std::int64_t TickedMask(const SearchWindow& window) {
+  std::int64_t mask = 0;
+  for (std::int64_t i = 0; i < pitch::kPositions; ++i) {
+    mask = pitch::Append(mask, window.cbScale(i)->Value());
+  }
+  return mask;
+}
+
+/// Adds the rows of one root. root_name is asked at each match, and only then.
+template <class RootName>
+void AddMatches(const pitch::Scales& scales, std::int64_t mask, const RootName& root_name,
+                Listbox& exact, Listbox& containing) {
+  if (!scales) return;
+  for (std::int64_t i = 0; i <= scales.LastIndex(); ++i) {
+    const pitch::TScale& scale = *scales[i];
+    if (scale.Equivalent(mask)) exact.AddRow({scale.Bank(), scale.Scale(), root_name()});
+    if (scale.ContainsAll(mask)) {
+      containing.AddRow({scale.Bank(), scale.Scale(), root_name(), framework::Str(scale.Notes())});
+    }
+  }
+}
+
+void SweepOtherRoots(const SearchWindow& window, std::int64_t mask, Listbox& exact,
+                     Listbox& containing) {
+  for (std::int64_t i = 1; i < pitch::kPositions; ++i) {
+    if (!window.cbScale(i)->Value() && window.cbRinL()->Value()) continue;
+    const auto root_name = [&] {
+      return window.Labels()[pitch::NameIndex(window.pmRoot()->ListIndex(), i)];
+    };
+    AddMatches(window.Scale(), pitch::Rotate12(mask, i), root_name, exact, containing);
+  }
+}
+
+}  // namespace
+
+void CompareScales(const SearchWindow& window) {
+  const std::int64_t mask = TickedMask(window);
+  window.lbValue()->Text(framework::Bin(mask));
+  const auto exact = window.lbExact();
+  exact->DeleteAllRows();
+  const auto containing = window.lbContaining();
+  containing->DeleteAllRows();
+  const auto root_name = [&] { return window.cbScale(0)->Caption(); };
+  AddMatches(window.Scale(), mask, root_name, *exact, *containing);
+  if (window.cbOther()->Value()) SweepOtherRoots(window, mask, *exact, *containing);
+}
+
+}  // namespace matching
