@@ -1,0 +1,59 @@
+#include "menu/main_menu_bar.h"
+
+namespace menu {
+
+using namespace framework;
+
+namespace {
+
+Ref<MainMenuBarClass> singleton;
+
+/// An entry, ready to be placed. shortcut is empty for none.
+template <class Item = MenuItem>
+Ref<MenuItem> Build(const char* name, const char* text, const char* shortcut) {
+  const auto item = RuntimeNewObject<Item>();
+  item->Constructor();
+  item->Name(name);
+  item->AutoEnable(true);
+  item->Text(text);
+  item->Visible(true);
+  item->KeyboardShortcut(shortcut);
+  return item;
+}
+
+}  // namespace
+
+void MainMenuBarClass::Constructor() {
+  FileMenu();
+  EditMenu();
+}
+
+void MainMenuBarClass::FileMenu() {
+  Append(Build("FileMenu", "&File", ""));
+  Child("FileMenu")->Append(Build<QuitMenuItem>("FileQuit", "&Quit", "Cmd+Q"));
+}
+
+void MainMenuBarClass::EditMenu() {
+  Append(Build("EditMenu", "&Edit", ""));
+  Child("EditMenu")->Append(Build("EditUndo", "&Undo", "Cmd+Z"));
+  Child("EditMenu")->Append(Build("EditSeparator1", "-", ""));
+  Child("EditMenu")->Append(Build("EditCut", "Cu&t", "Cmd+X"));
+  Child("EditMenu")->Append(Build("EditCopy", "&Copy", "Cmd+C"));
+  Child("EditMenu")->Append(Build("EditPaste", "&Paste", "Cmd+V"));
+  Child("EditMenu")->Append(Build("EditClear", "&Delete", ""));
+  Child("EditMenu")->Append(Build("EditSeparator2", "-", ""));
+  Child("EditMenu")->Append(Build("EditSelectAll", "Select &All", "Cmd+A"));
+}
+
+Ref<MainMenuBarClass> MainMenuBar() {
+  if (!singleton) {
+    const auto bar = RuntimeNewObject<MainMenuBarClass>();
+    bar->Constructor();
+    singleton = bar;
+  }
+  return singleton;
+}
+
+void _ForgetMainMenuBar() { singleton = nullptr; }
+
+}  // namespace menu
