@@ -1,0 +1,40 @@
+#include "window/control_sets.h"
+
+#include "window/layout.h"
+#include "window/main_window.h"
+
+namespace window {
+
+using framework::Ref;
+
+void cbScaleClass::Constructor() {
+  _SetProperties(*this, layout::Of("cbScale", 0));
+  const auto owner = framework::RuntimeCheckCast<wdwMainClass>(Window());
+  const Ref<CheckBox> self(this);
+  owner->_WireNoteBox(self);
+  Index(0);
+  owner->_AddControl("cbScale", self);
+  RectControl::Constructor();
+}
+
+void cbScaleClass::Constructor(std::int64_t index) {
+  Index(index);
+  RectControl::Constructor();
+}
+
+void lbStarClass::Constructor() {
+  _SetProperties(*this, layout::Of("lbStar", 9));
+  const auto owner = framework::RuntimeCheckCast<wdwMainClass>(Window());
+  const Ref<Label> self(this);
+  owner->_WireStar(self);
+  Index(0);
+  owner->_AddControl("lbStar", self);
+  RectControl::Constructor();
+}
+
+void lbStarClass::Constructor(std::int64_t index) {
+  Index(index);
+  RectControl::Constructor();
+}
+
+}  // namespace window

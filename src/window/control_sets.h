@@ -1,0 +1,27 @@
+#pragma once
+
+#include "framework/check_box.h"
+#include "framework/label.h"
+
+namespace window {
+
+/// A member of the control set of the twelve note boxes.
+class cbScaleClass final : public framework::CheckBox {
+ public:
+  /// Makes a member of the set at run time: it takes the block of the set's first-made member, the
+  /// set's handlers and the index 0.
+  void Constructor();
+  /// Makes the member with that index, which the window then files.
+  void Constructor(std::int64_t index);
+};
+
+/// A member of the control set of the twelve stars.
+class lbStarClass final : public framework::Label {
+ public:
+  /// As for the boxes. The first-made star is number 9, so the new label stands at that star's
+  /// place and is filed as 0 all the same.
+  void Constructor();
+  void Constructor(std::int64_t index);
+};
+
+}  // namespace window
