@@ -1,0 +1,13 @@
+#pragma once
+
+#include "framework/application.h"
+
+namespace shell {
+
+/// The program's application object. It has no logic of its own and handles none of its events.
+class App final : public framework::Application {
+ public:
+  void Constructor() {}
+};
+
+}  // namespace shell
