@@ -1,0 +1,110 @@
+#include "toolkit/qt/control_peer.h"
+
+#include <algorithm>
+
+#include "framework/window.h"
+#include "toolkit/qt/check_box_peer.h"
+#include "toolkit/qt/label_peer.h"
+#include "toolkit/qt/listbox_peer.h"
+#include "toolkit/qt/popup_menu_peer.h"
+#include "toolkit/qt/text.h"
+
+namespace toolkit::qt {
+
+using namespace framework;
+
+namespace {
+
+QRect FrameOf(const RectControl& control) {
+  return {static_cast<int>(control.Left()), static_cast<int>(control.Top()),
+          static_cast<int>(control.Width()), static_cast<int>(control.Height())};
+}
+
+/// How far a text at the control's place can run to the right before it meets another control.
+int RoomFor(const RectControl& control) {
+  const QRect frame = FrameOf(control);
+  constexpr int kGap = 4;
+  const auto window = control.Window();
+  int end = static_cast<int>(window->Width());
+  for (const Ref<framework::Control>& other : window->_Controls()) {
+    const QRect taken = FrameOf(*RuntimeCheckCast<RectControl>(other));
+    const bool beside = taken.top() <= frame.bottom() && taken.bottom() >= frame.top();
+    if (beside && taken.left() > frame.right()) end = std::min(end, taken.left());
+  }
+  return end - kGap - frame.left();
+}
+
+/// A tool tip wraps only as rich text, which would fold the text's blanks.
+QString ToolTip(const QString& text) {
+  if (text.isEmpty()) return {};
+  return QStringLiteral("<p style=\"white-space: pre-wrap\">%1</p>").arg(text.toHtmlEscaped());
+}
+
+}  // namespace
+
+ControlPeer::ControlPeer(const Ref<RectControl>& control, QWidget* widget)
+    : control_(control), widget_(widget) {
+  control_->_SetPeer(this);
+}
+
+ControlPeer::~ControlPeer() { control_->_SetPeer(nullptr); }
+
+void ControlPeer::Build() {
+  QString name = Shown(control_->Name());
+  if (control_->Index() != Control::kNoIndex) name += QString::number(control_->Index());
+  widget_->setObjectName(name);
+  Look();
+  for (const Change what : {Change::Rows, Change::Caption, Change::Text, Change::Value,
+                            Change::ListIndex, Change::Visible}) {
+    Changed(what);
+  }
+  Place();
+}
+
+void ControlPeer::Changed(Change what) {
+  if (what == Change::Frame) Place();
+  if (what == Change::Look) Look();
+  if (what == Change::Visible) widget_->setVisible(control_->Visible());
+  Show(what);
+  if (what == Change::Caption || what == Change::Text) Place();
+}
+
+void ControlPeer::Title(const QString&, ControlPeer&) {}
+
+void ControlPeer::Place() {
+  // The frame keeps its measures. A text that is wider, in this platform's font, runs on past it as
+  // far as nothing is in the way.
+  QRect place = FrameOf(*control_);
+  place.setWidth(std::max(place.width(), std::min(WantedWidth(), RoomFor(*control_))));
+  widget_->setGeometry(place);
+}
+
+void ControlPeer::Look() {
+  const QString help = Shown(control_->HelpTag());
+  widget_->setToolTip(ToolTip(help));
+  widget_->setAccessibleDescription(help);
+  widget_->setEnabled(control_->Enabled());
+  QFont font = widget_->font();
+  if (control_->TextSize() > 0) font.setPixelSize(static_cast<int>(control_->TextSize()));
+  font.setBold(control_->Bold());
+  font.setItalic(control_->Italic());
+  font.setUnderline(control_->Underline());
+  widget_->setFont(font);
+}
+
+std::unique_ptr<ControlPeer> MakePeer(const Ref<RectControl>& control, QWidget* content) {
+  std::unique_ptr<ControlPeer> peer;
+  if (auto* const box = dynamic_cast<CheckBox*>(control.Get())) {
+    peer = std::make_unique<CheckBoxPeer>(Ref<CheckBox>(box), content);
+  } else if (auto* const label = dynamic_cast<Label*>(control.Get())) {
+    peer = std::make_unique<LabelPeer>(Ref<Label>(label), content);
+  } else if (auto* const list = dynamic_cast<Listbox*>(control.Get())) {
+    peer = std::make_unique<ListboxPeer>(Ref<Listbox>(list), content);
+  } else {
+    peer = std::make_unique<PopupMenuPeer>(RuntimeCheckCast<PopupMenu>(control), content);
+  }
+  peer->Build();
+  return peer;
+}
+
+}  // namespace toolkit::qt

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <memory>
+
+#include "framework/control.h"
+
+namespace toolkit::qt {
+
+/// The native counterpart of a control. The widget belongs to the native window; the peer ties the
+/// two together and lives no longer than the window's peer.
+class ControlPeer : public framework::Peer {
+ public:
+  ControlPeer(const framework::Ref<framework::RectControl>& control, QWidget* widget);
+  ControlPeer(const ControlPeer&) = delete;
+  ControlPeer& operator=(const ControlPeer&) = delete;
+  ~ControlPeer() override;
+
+  framework::RectControl& Control() const { return *control_; }
+  QWidget& Widget() const { return *widget_; }
+
+  /// Brings the widget to the control's whole state.
+  void Build();
+  void Changed(framework::Change what) override;
+
+  /// The name that a screen reader speaks: the text of the label above, for a control that shows no
+  /// caption of its own.
+  virtual void Title(const QString& title, class ControlPeer& label);
+
+ protected:
+  /// Shows what is special to the kind of control; called for each change, and at first.
+  virtual void Show(framework::Change what) = 0;
+  /// The width that the widget needs to show its text whole; 0 for a widget that has no say.
+  virtual int WantedWidth() const { return 0; }
+
+ private:
+  void Place();
+  void Look();
+
+  framework::Ref<framework::RectControl> control_;
+  QPointer<QWidget> widget_;
+};
+
+/// The peer of a control, by its class, with its widget in the given content area.
+std::unique_ptr<ControlPeer> MakePeer(const framework::Ref<framework::RectControl>& control,
+                                      QWidget* content);
+
+}  // namespace toolkit::qt

@@ -1,0 +1,57 @@
+#include "toolkit/qt/label_peer.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include "toolkit/qt/text.h"
+
+namespace toolkit::qt {
+
+using namespace framework;
+
+namespace {
+
+/// A label whose text may be of a larger size than its frame: then it is the ink that is centred,
+/// so that a glyph which sits high in its line, such as an asterisk, shows whole.
+class InkLabel final : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    if (fontMetrics().height() <= height()) return QLabel::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    QPainterPath outline;
+    outline.addText({}, font(), text());
+    const QRectF ink = outline.boundingRect();
+    painter.drawText(QRectF(rect()).center() - ink.center(), text());
+  }
+};
+
+}  // namespace
+
+LabelPeer::LabelPeer(const Ref<Label>& label, QWidget* content)
+    : ControlPeer(label, new InkLabel(content)),
+      label_(label),
+      widget_(static_cast<QLabel*>(&Widget())) {
+  widget_->setTextFormat(Qt::PlainText);
+}
+
+void LabelPeer::Show(Change what) {
+  if (what != Change::Text && what != Change::Look) return;
+  widget_->setText(Shown(label_->Text()));
+  const bool centred = label_->TextAlign() == Label::kCentre;
+  widget_->setAlignment((centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter);
+  const Color color = label_->TextColor();
+  if (Same(color, Color{})) return;
+  QPalette palette = widget_->palette();
+  palette.setColor(QPalette::WindowText, QColor(color.first, color.green, color.third));
+  widget_->setPalette(palette);
+}
+
+int LabelPeer::WantedWidth() const {
+  return label_->TextAlign() == Label::kLeft ? widget_->sizeHint().width() : 0;
+}
+
+}  // namespace toolkit::qt

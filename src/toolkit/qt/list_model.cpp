@@ -1,0 +1,25 @@
+#include "toolkit/qt/list_model.h"
+
+#include "toolkit/qt/text.h"
+
+namespace toolkit::qt {
+
+void ListModel::TakeOver() {
+  beginResetModel();
+  rows_ = static_cast<int>(list_->LastIndex()) + 1;
+  endResetModel();
+}
+
+int ListModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
+
+int ListModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(list_->ColumnCount());
+}
+
+QVariant ListModel::data(const QModelIndex& index, int role) const {
+  // Between a change and its taking over, the list may be shorter than what the view knows.
+  if (role != Qt::DisplayRole || index.row() > list_->LastIndex()) return {};
+  return Shown(list_->Cell(index.row(), index.column()));
+}
+
+}  // namespace toolkit::qt

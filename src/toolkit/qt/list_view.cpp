@@ -1,0 +1,120 @@
+#include "toolkit/qt/list_view.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+#include <QStyledItemDelegate>
+#include <algorithm>
+
+namespace toolkit::qt {
+
+namespace {
+
+/// Draws cells without the focus frame of a single cell: a row is what is chosen here, and the list
+/// shows by itself that it has the focus.
+class RowDelegate final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->state &= ~QStyle::State_HasFocus;
+  }
+};
+
+}  // namespace
+
+ListView::ListView(QWidget* parent) : QTableView(parent) {
+  setItemDelegate(new RowDelegate(this));
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(SingleSelection);
+  setEditTriggers(NoEditTriggers);
+  setTabKeyNavigation(false);
+  setShowGrid(false);
+  setWordWrap(false);
+  setCornerButtonEnabled(false);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  horizontalHeader()->hide();
+  horizontalHeader()->setMinimumSectionSize(0);
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  SetRowHeight();
+}
+
+void ListView::SetColumnShares(std::vector<int> shares) {
+  shares_ = std::move(shares);
+  ShareWidth();
+}
+
+void ListView::keyPressEvent(QKeyEvent* event) {
+  const bool arrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+  if (event->key() == Qt::Key_Escape && selectionModel()->hasSelection()) {
+    TakeSelectionBack();
+  } else if (arrow && !selectionModel()->hasSelection() && model()->rowCount() > 0) {
+    // The first arrow chooses the row that stands under the focus, not the one after it.
+    selectRow(std::max(currentIndex().row(), 0));
+  } else {
+    QTableView::keyPressEvent(event);
+  }
+}
+
+void ListView::mousePressEvent(QMouseEvent* event) {
+  if (!indexAt(event->position().toPoint()).isValid()) TakeSelectionBack();
+  QTableView::mousePressEvent(event);
+}
+
+void ListView::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (!hasFocus()) return;
+  QPainter painter(viewport());
+  painter.setPen(palette().color(QPalette::Highlight));
+  painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+}
+
+void ListView::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  ShareWidth();
+}
+
+void ListView::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) SetRowHeight();
+}
+
+void ListView::focusInEvent(QFocusEvent* event) {
+  QTableView::focusInEvent(event);
+  viewport()->update();
+}
+
+void ListView::focusOutEvent(QFocusEvent* event) {
+  QTableView::focusOutEvent(event);
+  viewport()->update();
+}
+
+void ListView::TakeSelectionBack() {
+  clearSelection();
+  setCurrentIndex({});
+}
+
+void ListView::SetRowHeight() {
+  QStyleOptionViewItem option;
+  initViewItemOption(&option);
+  option.features = QStyleOptionViewItem::HasDisplay;
+  option.text = QStringLiteral("X");
+  const int height = style()->sizeFromContents(QStyle::CT_ItemViewItem, &option, {}, this).height();
+  verticalHeader()->setMinimumSectionSize(0);
+  verticalHeader()->setDefaultSectionSize(height);
+}
+
+void ListView::ShareWidth() {
+  for (int column = 0; column < static_cast<int>(shares_.size()); ++column) {
+    const int share = shares_[static_cast<std::size_t>(column)];
+    setColumnHidden(column, share == 0);
+    if (share > 0) setColumnWidth(column, viewport()->width() * share / 1000);
+  }
+}
+
+}  // namespace toolkit::qt

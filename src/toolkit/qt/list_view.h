@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QTableView>
+#include <vector>
+
+namespace toolkit::qt {
+
+/// A table that looks and feels like a plain list: rows only, no heading, no grid. Escape and a
+/// click beside the rows take the selection back.
+class ListView final : public QTableView {
+ public:
+  explicit ListView(QWidget* parent);
+
+  /// Widths in parts of 1000 of the room for the rows; a column without a width is not shown.
+  void SetColumnShares(std::vector<int> shares);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  void TakeSelectionBack();
+  void SetRowHeight();
+  void ShareWidth();
+
+  std::vector<int> shares_;
+};
+
+}  // namespace toolkit::qt

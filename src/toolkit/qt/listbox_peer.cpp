@@ -1,0 +1,76 @@
+#include "toolkit/qt/listbox_peer.h"
+
+#include <QItemSelectionModel>
+#include <QMetaObject>
+#include <QScopedValueRollback>
+
+#include "framework/text.h"
+
+namespace toolkit::qt {
+
+using namespace framework;
+
+namespace {
+
+/// The widths as the view wants them; a list without a text for a column gives that column none.
+std::vector<int> Shares(const Listbox& list) {
+  std::vector<int> shares(static_cast<std::size_t>(list.ColumnCount()));
+  const auto widths = Split(list.ColumnWidths(), ",");
+  const auto last = static_cast<std::int64_t>(shares.size()) - 1;
+  for (std::int64_t i = 0; i <= std::min(last, widths.LastIndex()); ++i) {
+    const double width = Val(widths[i]);
+    const bool percent = widths[i].View().ends_with('%');
+    shares[static_cast<std::size_t>(i)] =
+        static_cast<int>(percent ? width * 10 : width * 1000 / static_cast<double>(list.Width()));
+  }
+  return shares;
+}
+
+}  // namespace
+
+ListboxPeer::ListboxPeer(const Ref<Listbox>& list, QWidget* content)
+    : ControlPeer(list, new ListView(content)),
+      list_(list),
+      widget_(static_cast<ListView*>(&Widget())),
+      model_(new ListModel(list, widget_)) {
+  widget_->setModel(model_);
+  QObject::connect(widget_->selectionModel(), &QItemSelectionModel::selectionChanged, widget_,
+                   [this] { TakeSelection(); });
+}
+
+void ListboxPeer::Title(const QString& title, ControlPeer&) { widget_->setAccessibleName(title); }
+
+void ListboxPeer::Show(Change what) {
+  if (what == Change::Rows) RefreshLater();
+  if (what == Change::ListIndex && !refresh_pending_) ShowSelection();
+  if (what == Change::Look || what == Change::Visible) widget_->SetColumnShares(Shares(*list_));
+}
+
+void ListboxPeer::RefreshLater() {
+  if (refresh_pending_) return;
+  refresh_pending_ = true;
+  QMetaObject::invokeMethod(
+      widget_, [this] { Refresh(); }, Qt::QueuedConnection);
+}
+
+void ListboxPeer::Refresh() {
+  refresh_pending_ = false;
+  model_->TakeOver();
+  widget_->scrollToTop();
+  ShowSelection();
+}
+
+void ListboxPeer::ShowSelection() {
+  const QScopedValueRollback<bool> showing(showing_selection_, true);
+  const auto row = static_cast<int>(list_->ListIndex());
+  if (row < 0) return widget_->clearSelection();
+  widget_->selectRow(row);
+}
+
+void ListboxPeer::TakeSelection() {
+  if (showing_selection_ || refresh_pending_) return;
+  const QModelIndexList rows = widget_->selectionModel()->selectedRows();
+  list_->Select(rows.isEmpty() ? -1 : rows.front().row());
+}
+
+}  // namespace toolkit::qt

@@ -1,0 +1,37 @@
+#include "toolkit/qt/popup_menu_peer.h"
+
+#include <QLabel>
+
+#include "toolkit/qt/text.h"
+
+namespace toolkit::qt {
+
+using framework::Change;
+
+PopupMenuPeer::PopupMenuPeer(const framework::Ref<framework::PopupMenu>& menu, QWidget* content)
+    : ControlPeer(menu, new QComboBox(content)),
+      menu_(menu),
+      widget_(static_cast<QComboBox*>(&Widget())) {
+  QObject::connect(widget_, &QComboBox::activated, widget_,
+                   [this](int row) { menu_->Choose(row); });
+}
+
+void PopupMenuPeer::Title(const QString& title, ControlPeer& label) {
+  widget_->setAccessibleName(title);
+  // A screen reader takes the chosen entry for the name, but knows the label that belongs to it.
+  static_cast<QLabel&>(label.Widget()).setBuddy(widget_);
+}
+
+void PopupMenuPeer::Show(Change what) {
+  if (what == Change::Rows) {
+    widget_->clear();
+    const auto rows = menu_->Rows();
+    for (std::int64_t i = 0; i <= rows.LastIndex(); ++i) widget_->addItem(Shown(rows[i]));
+    widget_->setMaxVisibleItems(static_cast<int>(rows.LastIndex()) + 1);
+  }
+  if (what == Change::Rows || what == Change::ListIndex) {
+    widget_->setCurrentIndex(static_cast<int>(menu_->ListIndex()));
+  }
+}
+
+}  // namespace toolkit::qt

@@ -1,0 +1,78 @@
+#include "toolkit/qt/qt_toolkit.h"
+
+#include <QMessageBox>
+#include <QTimer>
+#include <cstdlib>
+#include <iostream>
+#include <utility>
+
+#include "framework/application.h"
+#include "toolkit/qt/native_window.h"
+#include "toolkit/qt/text.h"
+
+namespace toolkit::qt {
+
+using namespace framework;
+
+namespace {
+
+/// Qt ends the process with an abort, and so a core file, when no display answers. Its last message
+/// before that is the only one that no way of having no display goes around.
+void EndWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+  if (type != QtFatalMsg) return;
+  std::cerr << "No window can be opened: there is no X11 or Wayland display that answers.\n";
+  std::_Exit(EXIT_FAILURE);
+}
+
+void ShowBox(QMessageBox::Icon icon, const std::string& title, const QString& text) {
+  QMessageBox box(icon, QString::fromStdString(title), text, QMessageBox::Ok,
+                  QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
+}  // namespace
+
+void QtToolkit::Initialise() {
+  const auto rounding = Application::_SupportsHiDPI()
+                            ? Qt::HighDpiScaleFactorRoundingPolicy::PassThrough
+                            : Qt::HighDpiScaleFactorRoundingPolicy::Floor;
+  QApplication::setHighDpiScaleFactorRoundingPolicy(rounding);
+  const auto usual = qInstallMessageHandler(&EndWithoutDisplay);
+  application_ = std::make_unique<QApplication>(argument_count_, arguments_);
+  qInstallMessageHandler(usual);
+  // A message box that closes before there is a window does not end the program; the window says
+  // itself when it does.
+  QApplication::setQuitOnLastWindowClosed(false);
+}
+
+std::unique_ptr<WindowPeer> QtToolkit::Show(const Ref<Window>& window) {
+  auto native = std::make_unique<NativeWindow>(window);
+  native->show();
+  return native;
+}
+
+void QtToolkit::Run() {
+  if (!std::exchange(quit_, false)) QApplication::exec();
+  quit_ = false;
+}
+
+void QtToolkit::Quit() {
+  quit_ = true;
+  if (application_ != nullptr) QApplication::quit();
+}
+
+void QtToolkit::ShowMessage(const String& text) {
+  ShowBox(QMessageBox::Warning, name_, Shown(text));
+}
+
+void QtToolkit::ReportFailure(const String& text) {
+  std::cerr << name_ << ": " << text.View() << std::endl;
+  if (application_ != nullptr) ShowBox(QMessageBox::Critical, name_, Shown(text));
+}
+
+void QtToolkit::CallLater(std::int64_t delay_ms, std::function<void()> work) {
+  QTimer::singleShot(static_cast<int>(delay_ms), application_.get(), std::move(work));
+}
+
+}  // namespace toolkit::qt
