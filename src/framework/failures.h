@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <exception>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "framework/array.h"
@@ -111,7 +112,11 @@ template <class Exception>
 /// The class test of a guard: true for the class itself and for its subclasses.
 template <class Class>
 bool RuntimeObjectIsa(const RuntimeException& exception) {
-  return dynamic_cast<const Class*>(&exception) != nullptr;
+  if constexpr (std::is_same_v<Class, RuntimeException>) {
+    return true;
+  } else {
+    return dynamic_cast<const Class*>(&exception) != nullptr;
+  }
 }
 
 }  // namespace framework

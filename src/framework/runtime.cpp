@@ -28,7 +28,10 @@ struct Runtime {
   int exit_status = 0;
 };
 
-Runtime runtime;
+Runtime& State() {
+  static auto& state = *new Runtime;
+  return state;
+}
 
 String Describe(const RuntimeException& exception) {
   std::string text(exception.ClassName());
@@ -67,36 +70,36 @@ std::exception_ptr _CallFunctionWithExceptionHandling(void (*function)(void*), v
 }
 
 void _UITrap() {
-  if (runtime.app && Application::CurrentThread() != nullptr) {
+  if (State().app && Application::CurrentThread() != nullptr) {
     RuntimeRaiseException(ThreadAccessingUIException());
   }
 }
 
 const std::thread::id* Application::CurrentThread() {
   static thread_local const std::thread::id self = std::this_thread::get_id();
-  return self == runtime.main_thread ? nullptr : &self;
+  return self == State().main_thread ? nullptr : &self;
 }
 
 void RuntimeInit() {
-  runtime = {};
-  runtime.main_thread = std::this_thread::get_id();
+  State() = {};
+  State().main_thread = std::this_thread::get_id();
 }
 
 void RuntimePerformInitializers(std::span<const Initializer> program) {
-  runtime.program = program;
+  State().program = program;
   for (const Initializer& initializer : program) initializer.set_up();
 }
 
-void _RuntimeSetExceptionHelper(ExceptionFunction function) { runtime.exception_helper = function; }
+void _RuntimeSetExceptionHelper(ExceptionFunction function) { State().exception_helper = function; }
 
-void RuntimeSetFrameworkVersion(double version) { runtime.framework_version = version; }
-double RuntimeFrameworkVersion() { return runtime.framework_version; }
+void RuntimeSetFrameworkVersion(double version) { State().framework_version = version; }
+double RuntimeFrameworkVersion() { return State().framework_version; }
 
 void _RuntimeInitExternalClasses() {}
 void _InitPluginEntrypoints() {}
 
-void _RuntimeRegisterAppObject(const Ref<Application>& app) { runtime.app = app; }
-Ref<Application> getAppObject() { return runtime.app; }
+void _RuntimeRegisterAppObject(const Ref<Application>& app) { State().app = app; }
+Ref<Application> getAppObject() { return State().app; }
 
 void _RunFrameworkInitialization(void (*function)()) {
   Toolkit::Current().Initialise();
@@ -104,21 +107,21 @@ void _RunFrameworkInitialization(void (*function)()) {
 }
 
 void _RuntimeRun() {
-  if (runtime.escaped == nullptr) Toolkit::Current().Run();
-  if (runtime.escaped != nullptr) {
-    RuntimeReraiseException(std::exchange(runtime.escaped, nullptr));
+  if (State().escaped == nullptr) Toolkit::Current().Run();
+  if (State().escaped != nullptr) {
+    RuntimeReraiseException(std::exchange(State().escaped, nullptr));
   }
 }
 
 void _RunEvent(const std::function<void()>& work) noexcept {
   std::exception_ptr failure;
   try {
-    failure = runtime.exception_helper(&CallWork, const_cast<std::function<void()>*>(&work));
+    failure = State().exception_helper(&CallWork, const_cast<std::function<void()>*>(&work));
   } catch (...) {
     failure = std::current_exception();
   }
   if (failure == nullptr) return;
-  runtime.escaped = failure;
+  State().escaped = failure;
   Toolkit::Current().Quit();
 }
 
@@ -127,19 +130,20 @@ void UnhandledException(const RuntimeException& exception) {
 }
 
 void _UnhandledException(const std::exception_ptr& exception) {
-  runtime.exit_status = 1;
+  State().exit_status = 1;
   Toolkit::Current().ReportFailure(Describe(exception));
 }
 
 void RuntimePerformFinalizers() {
   _ReleaseWindows();
-  for (auto it = runtime.program.rbegin(); it != runtime.program.rend(); ++it) it->tear_down();
+  const auto& program = State().program;
+  for (auto it = program.rbegin(); it != program.rend(); ++it) it->tear_down();
   Timer::_Forget();
 }
 
 int RuntimeExit() {
-  const int status = runtime.exit_status;
-  runtime = {};
+  const int status = State().exit_status;
+  State() = {};
   return status;
 }
 

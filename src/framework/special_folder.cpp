@@ -52,19 +52,19 @@ class _SpecialFolderDesktop {
 };
 
 /// The one object that answers for the special folders, made at the first use.
-std::unique_ptr<_SpecialFolderDesktop> _PlatformSpecialFolder;
-
-_SpecialFolderDesktop& _SpecFold() {
-  if (_PlatformSpecialFolder == nullptr) SpecialFolder::_SetBundlePlatform(nullptr);
-  return *_PlatformSpecialFolder;
+std::unique_ptr<_SpecialFolderDesktop>& _PlatformSpecialFolder() {
+  static auto& folder = *new std::unique_ptr(std::make_unique<_SpecialFolderDesktop>(nullptr));
+  return folder;
 }
+
+_SpecialFolderDesktop& _SpecFold() { return *_PlatformSpecialFolder(); }
 
 }  // namespace
 
 Ref<FolderItem> SpecialFolder::Resources() { return _SpecFold().Resources(); }
 
 void SpecialFolder::_SetBundlePlatform(std::unique_ptr<BundlePlatform> platform) {
-  _PlatformSpecialFolder = std::make_unique<_SpecialFolderDesktop>(std::move(platform));
+  _PlatformSpecialFolder() = std::make_unique<_SpecialFolderDesktop>(std::move(platform));
 }
 
 Ref<FolderItem> GetResource(const String& name) {

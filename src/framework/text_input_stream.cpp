@@ -13,7 +13,7 @@ namespace framework {
 
 namespace {
 
-constexpr std::size_t kBlock = 64 * 1024;
+constexpr std::size_t kBlock = 65536;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// read() that goes on when a signal came between.
@@ -29,7 +29,7 @@ ssize_t ReadSome(int file, char* to, std::size_t size) {
 
 Ref<TextInputStream> TextInputStream::Open(const Ref<FolderItem>& item) {
   if (!item) RuntimeRaiseException(NilObjectException());
-  const Ref<TextInputStream> stream = FolderItemOpenTextFile(*item);
+  Ref<TextInputStream> stream = FolderItemOpenTextFile(*item);
   if (!stream) {
     IOException failure;
     failure.ErrorNumber(item->LastErrorCode());

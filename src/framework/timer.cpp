@@ -21,11 +21,14 @@ class _CallLaterTimer final : public Object {
 };
 
 /// The live timers; standing here is what keeps them alive until they fire.
-std::vector<Ref<_CallLaterTimer>> sCallLaterTimers;
+std::vector<Ref<_CallLaterTimer>>& sCallLaterTimers() {
+  static auto& timers = *new std::vector<Ref<_CallLaterTimer>>;
+  return timers;
+}
 
 void _CallLaterTimer::Action() {
   const Ref<_CallLaterTimer> self(this);
-  std::erase(sCallLaterTimers, self);
+  std::erase(sCallLaterTimers(), self);
   _RunEvent(method_);
 }
 
@@ -33,12 +36,12 @@ void _CallLaterTimer::Action() {
 
 void Timer::CallLater(std::int64_t delay_ms, std::function<void()> method) {
   const auto timer = RuntimeNewObject<_CallLaterTimer>(std::move(method));
-  sCallLaterTimers.push_back(timer);
+  sCallLaterTimers().push_back(timer);
   Toolkit::Current().CallLater(delay_ms, [live = RuntimeNewObject<WeakRef>(timer)] {
     if (const Ref<Object> object = live->Value()) static_cast<_CallLaterTimer&>(*object).Action();
   });
 }
 
-void Timer::_Forget() { sCallLaterTimers.clear(); }
+void Timer::_Forget() { sCallLaterTimers().clear(); }
 
 }  // namespace framework

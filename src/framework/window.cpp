@@ -36,9 +36,10 @@ constexpr PropertyInfo kProperties[] = {
     Declare<&Window::MenuBarVisible>("MenuBarVisible"),
 };
 
-/// The windows that have been made, in that order; it keeps them alive.
+/// The windows that have been made, in that order; it keeps them alive. When a toolkit ends the
+/// process in mid-run, they must not be torn down around it: hence no destructor.
 std::vector<Ref<Window>>& Windows() {
-  static std::vector<Ref<Window>> windows;
+  static auto& windows = *new std::vector<Ref<Window>>;
   return windows;
 }
 

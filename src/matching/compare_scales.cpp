@@ -6,7 +6,6 @@
 namespace matching {
 
 using framework::Listbox;
-using framework::String;
 
 namespace {
 

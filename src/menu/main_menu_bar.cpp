@@ -6,12 +6,15 @@ using namespace framework;
 
 namespace {
 
-Ref<MainMenuBarClass> singleton;
+Ref<MainMenuBarClass>& Singleton() {
+  static auto& singleton = *new Ref<MainMenuBarClass>;
+  return singleton;
+}
 
 /// An entry, ready to be placed. shortcut is empty for none.
 template <class Item = MenuItem>
 Ref<MenuItem> Build(const char* name, const char* text, const char* shortcut) {
-  const auto item = RuntimeNewObject<Item>();
+  auto item = RuntimeNewObject<Item>();
   item->Constructor();
   item->Name(name);
   item->AutoEnable(true);
@@ -46,14 +49,14 @@ void MainMenuBarClass::EditMenu() {
 }
 
 Ref<MainMenuBarClass> MainMenuBar() {
-  if (!singleton) {
+  if (!Singleton()) {
     const auto bar = RuntimeNewObject<MainMenuBarClass>();
     bar->Constructor();
-    singleton = bar;
+    Singleton() = bar;
   }
-  return singleton;
+  return Singleton();
 }
 
-void _ForgetMainMenuBar() { singleton = nullptr; }
+void _ForgetMainMenuBar() { Singleton() = nullptr; }
 
 }  // namespace menu

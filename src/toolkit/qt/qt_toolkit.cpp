@@ -59,7 +59,7 @@ void QtToolkit::Run() {
 
 void QtToolkit::Quit() {
   quit_ = true;
-  if (application_ != nullptr) QApplication::quit();
+  if (application_ != nullptr) QApplication::exit(EXIT_SUCCESS);
 }
 
 void QtToolkit::ShowMessage(const String& text) {

@@ -10,7 +10,7 @@ namespace toolkit::qt {
 
 /// The toolkit of the real program: Qt 6 Widgets. It reads no command line. Without a display,
 /// Initialise ends the process with one line on stderr and the status 1.
-class QtToolkit final : public framework::Toolkit {
+class QtToolkit : public framework::Toolkit {
  public:
   /// The name stands over message boxes.
   explicit QtToolkit(std::string application_name) : name_(std::move(application_name)) {}
