@@ -1,0 +1,217 @@
+#include <QAccessible>
+#include <QAction>
+#include <QHeaderView>
+#include <QMessageBox>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTimer>
+
+#include "qt/qt_hand.h"
+#include "support/behaviour.h"
+
+namespace {
+
+using namespace framework;
+using namespace support;
+using testing::ElementsAre;
+
+INSTANTIATE_TYPED_TEST_SUITE_P(OnQt, Behaviour, QtHand);
+
+class Screen : public Behaviour<QtHand> {
+ protected:
+  QWidget& WidgetOf(const Control& control) {
+    std::string name(control.Name());
+    if (control.Index() != Control::kNoIndex) name += std::to_string(control.Index());
+    return Find(name.c_str());
+  }
+  std::vector<Ref<RectControl>> AllControls() const {
+    std::vector<Ref<RectControl>> controls;
+    for (const auto& control : window_->_Controls()) {
+      controls.push_back(RuntimeCheckCast<RectControl>(control));
+    }
+    return controls;
+  }
+};
+
+TEST_F(Screen, EveryControlStandsAtItsPlaceWithItsHelp) {
+  Open();
+  EXPECT_EQ(Native().centralWidget()->size(), QSize(615, 605));
+  EXPECT_EQ(Native().windowTitle(), "Orrel Pitchsieve");
+  for (const auto& control : AllControls()) {
+    const QWidget& widget = WidgetOf(*control);
+    SCOPED_TRACE(widget.objectName().toStdString());
+    EXPECT_EQ(widget.pos(),
+              QPoint(static_cast<int>(control->Left()), static_cast<int>(control->Top())));
+    EXPECT_EQ(widget.height(), control->Height());
+    if (dynamic_cast<Listbox*>(control.Get()) != nullptr || !control->Visible()) {
+      EXPECT_EQ(widget.width(), control->Width());
+    } else {
+      EXPECT_GE(widget.width(), control->Width());
+      EXPECT_GE(widget.width(),
+                dynamic_cast<PopupMenu*>(control.Get()) ? 80 : widget.sizeHint().width());
+    }
+    EXPECT_EQ(widget.isVisible(), control->Visible());
+    EXPECT_EQ(widget.accessibleDescription().toStdString(), Text(control->HelpTag()));
+    EXPECT_EQ(widget.toolTip().isEmpty(), control->HelpTag().View().empty());
+  }
+  EXPECT_TRUE(Find("cbRinL").toolTip().contains("only  scales where"));
+  EXPECT_TRUE(Find("cbRinL").toolTip().contains("pre-wrap"));
+}
+
+TEST_F(Screen, NothingMovesWhenTheWindowIsResized) {
+  Open();
+  for (const QSize size : {QSize(64, 64), QSize(1200, 1000)}) {
+    Native().resize(size);
+    QApplication::processEvents();
+    EXPECT_EQ(Native().width(), size.width());
+    for (const auto& control : AllControls()) {
+      EXPECT_EQ(WidgetOf(*control).pos(),
+                QPoint(static_cast<int>(control->Left()), static_cast<int>(control->Top())));
+    }
+    EXPECT_EQ(Find("lbExact").size(), QSize(387, 95));
+  }
+}
+
+TEST_F(Screen, StarIsWholeAndGreenInItsStrip) {
+  Open();
+  hand_->Tick(0);
+  hand_->ChooseRow(0);
+  const QImage star = Find("lbStar0").grab().toImage();
+  const QColor ground = star.pixelColor(0, 0);
+  QRect ink;
+  for (int y = 0; y < star.height(); ++y) {
+    for (int x = 0; x < star.width(); ++x) {
+      if (star.pixelColor(x, y) != ground) ink |= QRect(x, y, 1, 1);
+    }
+  }
+  EXPECT_EQ(star.size(), QSize(15, 20));
+  EXPECT_GE(ink.width(), 10) << "large";
+  EXPECT_TRUE(QRect(0, 1, 15, 18).contains(ink)) << "whole";
+  EXPECT_LE(std::abs(ink.center().y() - 9), 1) << "at its row";
+  EXPECT_EQ(star.pixelColor(ink.center()), QColor(0, 129, 0));
+}
+
+TEST_F(Screen, TabGoesDownTheLeftColumnThenTheRight) {
+  Open();
+  std::vector<std::string> order;
+  Find("pmRoot").setFocus();
+  for (int i = 0; i < 17; ++i) {
+    order.push_back(QApplication::focusWidget()->objectName().toStdString());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  }
+  EXPECT_THAT(order,
+              ElementsAre("pmRoot", "cbOther", "cbRinL", "cbScale0", "cbScale1", "cbScale2",
+                          "cbScale3", "cbScale4", "cbScale5", "cbScale6", "cbScale7", "cbScale8",
+                          "cbScale9", "cbScale10", "cbScale11", "lbExact", "lbContaining"));
+  EXPECT_EQ(QApplication::focusWidget()->objectName(), "pmRoot") << "and round again";
+}
+
+TEST_F(Screen, EveryFocusableControlHasItsRoleAndName) {
+  Open();
+  const auto role_and_name = [](const char* name) {
+    QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(&Find(name));
+    return std::pair(spoken->role(), spoken->text(QAccessible::Name).toStdString());
+  };
+  EXPECT_EQ(role_and_name("lbExact"), std::pair(QAccessible::Table, std::string("Exact Match")));
+  EXPECT_EQ(role_and_name("lbContaining"),
+            std::pair(QAccessible::Table, std::string("Containing All Notes")));
+  EXPECT_EQ(role_and_name("pmRoot").first, QAccessible::ComboBox);
+  EXPECT_EQ(Find("pmRoot").accessibleName(), "Root Note");
+  hand_->ChooseRoot(4);
+  for (const auto& control : AllControls()) {
+    const auto* const box = dynamic_cast<const CheckBox*>(control.Get());
+    if (box == nullptr) continue;
+    const QWidget& widget = WidgetOf(*box);
+    EXPECT_EQ(role_and_name(widget.objectName().toUtf8()),
+              std::pair(QAccessible::CheckBox, Text(box->Caption())));
+  }
+}
+
+TEST_F(Screen, ListsAreBareTablesThatAnEventRefreshesOnce) {
+  Open();
+  auto& list = Find<QTableView>("lbContaining");
+  const QSignalSpy refreshed(list.model(), &QAbstractItemModel::modelReset);
+  hand_->TickOther();
+  EXPECT_EQ(refreshed.count(), 1);
+  EXPECT_EQ(list.model()->rowCount(), 48);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return list.verticalScrollBar()->isVisible(); }));
+  const int width = list.viewport()->width();
+  EXPECT_EQ(list.columnWidth(0), width * 35 / 100);
+  EXPECT_EQ(list.columnWidth(1), width * 50 / 100);
+  EXPECT_EQ(list.columnWidth(2), width * 15 / 100);
+  EXPECT_TRUE(list.isColumnHidden(3));
+  EXPECT_FALSE(list.horizontalScrollBar()->isVisible());
+  EXPECT_FALSE(Find<QTableView>("lbExact").verticalScrollBar()->isVisible());
+  EXPECT_FALSE(list.horizontalHeader()->isVisible());
+  EXPECT_FALSE(list.showGrid());
+}
+
+TEST_F(Screen, ListIsChosenFromByKeysAndLetGoByMouse) {
+  Open();
+  hand_->Tick(0);
+  auto& list = Find<QTableView>("lbContaining");
+  list.setFocus();
+  QTest::keyClick(&list, Qt::Key_Down);
+  EXPECT_EQ(window_->lbContaining()->ListIndex(), 0);
+  QTest::keyClick(&list, Qt::Key_Down);
+  EXPECT_EQ(window_->lbContaining()->ListIndex(), 1);
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.viewport()->rect().bottomLeft());
+  EXPECT_EQ(window_->lbContaining()->ListIndex(), -1) << "beside the rows";
+  hand_->ChooseRow(2);
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                    list.visualRect(list.model()->index(2, 0)).center());
+  EXPECT_EQ(window_->lbContaining()->ListIndex(), -1) << "with the Ctrl key";
+  hand_->ChooseRow(2);
+  hand_->Tick(2);
+  EXPECT_FALSE(list.selectionModel()->hasSelection());
+}
+
+TEST_F(Screen, RootIsChosenByItsLetter) {
+  Open();
+  QTest::keyClick(&Find("pmRoot"), Qt::Key_F);
+  EXPECT_EQ(Text(window_->cbScale(0)->Caption()), "F");
+  EXPECT_EQ(Text(window_->lbValue()->Text()), "0") << "and the pass has run";
+}
+
+TEST_F(Screen, BytesThatAreNoTextShowAsSuch) {
+  Open("a\nb\n\xFF&,&S\xC3,TRUE,,,,,,,,,,,");
+  hand_->Tick(0);
+  const auto* const model = Find<QTableView>("lbExact").model();
+  EXPECT_EQ(model->index(0, 0).data().toString(), QString::fromUtf8("\uFFFD&"));
+  EXPECT_EQ(model->index(0, 1).data().toString(), QString::fromUtf8("&S\uFFFD"));
+}
+
+TEST_F(Screen, QuitEndsTheRunAndEditHasNothingToDo) {
+  Open();
+  for (const char* const name :
+       {"EditUndo", "EditCut", "EditCopy", "EditPaste", "EditClear", "EditSelectAll"}) {
+    EXPECT_FALSE(Find<QAction>(name).isEnabled()) << name;
+  }
+  QTimer::singleShot(0, [] { QTest::keyClick(&Native(), Qt::Key_Q, Qt::ControlModifier); });
+  _RuntimeRun();
+  QTimer::singleShot(0, [] { Find<QAction>("FileQuit").trigger(); });
+  _RuntimeRun();
+  QTimer::singleShot(0, [] { Native().close(); });
+  _RuntimeRun();
+}
+
+TEST_F(Screen, MessageWaitsForTheUserAndTheProgramGoesOn) {
+  std::filesystem::create_directory(folder_.Path(library::kFileName));
+  QString told;
+  QTimer waiting;
+  waiting.callOnTimeout([&] {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) return;
+    told = box->text();
+    box->accept();
+  });
+  RuntimeInit();
+  shell::_EarlyStartup();
+  _RunFrameworkInitialization([] {});
+  waiting.start(10);
+  window_ = window::wdwMain();
+  EXPECT_EQ(told, "Error accessing file.");
+  EXPECT_TRUE(Native().isVisible());
+}
+
+}  // namespace
