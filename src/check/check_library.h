@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "check/fault.h"
+#include "framework/text_input_stream.h"
+
+namespace check {
+
+struct Summary {
+  std::int64_t scales = 0;  ///< lines with enough fields, also behind an error
+  std::int64_t banks = 0;   ///< different ones among those scales
+  std::int64_t errors = 0;
+  std::int64_t warnings = 0;
+  std::int64_t remarks = 0;
+};
+
+/// Reads a library to its end, in the loader's own way: its first two lines are not looked at, and
+/// what ends a line is the stream's to say. Hands each fault to report, line by line. There is an
+/// error exactly when the loader would stop before the end. Raises IOException if reading fails.
+Summary CheckLibrary(framework::TextInputStream& library,
+                     const std::function<void(const Fault&)>& report);
+
+}  // namespace check
