@@ -6,6 +6,7 @@
 #include <new>
 
 #include "framework/runtime.h"
+#include "framework/text.h"
 #include "framework/ui_trap.h"
 
 namespace framework {
@@ -49,6 +50,13 @@ Ref<framework::MenuBar> Application::MenuBar() const { return menu_bar_; }
 void Application::MenuBar(const Ref<framework::MenuBar>& bar) {
   _UITrap();
   menu_bar_ = bar;
+}
+
+void Application::_MacOSNotificationReceived(const String& name) {
+  using namespace _MacOSDistributedNotifications;
+  const bool ours = RuntimeStringCompare(name, kThemeChanged) == 0 ||
+                    RuntimeStringCompare(name, kColorsChanged) == 0;
+  if (ours) Event_AppearanceChanged();
 }
 
 void Application::_x_SetVersionData(std::int64_t major, std::int64_t minor, std::int64_t bug,

@@ -7,12 +7,16 @@
 #include "framework/failures.h"
 #include "framework/folder_item.h"
 #include "framework/menu.h"
+#include "framework/notifications.h"
 
 namespace framework {
 
 /// The program as a whole. There is one object of it, which _RuntimeRegisterAppObject makes known.
-class Application : public Object {
+class Application : public _MacOSDistributedNotifications::iNotify {
  public:
+  /// Every application object hears of the system's appearance from its allocation on.
+  Application() { _MacOSDistributedNotifications::Register(*this); }
+
   /// Whether the program draws sharply on a screen of more than one pixel a point. Legal before any
   /// application object exists.
   static void _SetSupportsHiDPI(bool value);
@@ -43,6 +47,11 @@ class Application : public Object {
   String ShortVersion() const { return _x_mShortVersion; }
   String Version() const { return _x_mShortVersion; }
   String PackageInfo() const { return _x_mPackageInfo; }
+
+  /// Raises AppearanceChanged for the two notifications of the system's appearance, and ignores any
+  /// other.
+  void _MacOSNotificationReceived(const String& name) override;
+
   virtual void _x_SetVersionData(std::int64_t major, std::int64_t minor, std::int64_t bug,
                                  std::int64_t non_release, std::int64_t stage, String long_version,
                                  String short_version, String package_info);
@@ -50,6 +59,8 @@ class Application : public Object {
  protected:
   /// The UnhandledException event: true when the failure is dealt with.
   virtual bool Event_UnhandledException(const RuntimeException&) { return false; }
+  /// The AppearanceChanged event.
+  virtual void Event_AppearanceChanged() {}
 
  private:
   Ref<framework::MenuBar> menu_bar_;

@@ -8,6 +8,7 @@
 #include <typeinfo>
 #include <utility>
 
+#include "framework/local_object_runtime.h"
 #include "framework/timer.h"
 #include "framework/toolkit.h"
 #include "framework/ui_trap.h"
@@ -83,10 +84,12 @@ const std::thread::id* Application::CurrentThread() {
 void RuntimeInit() {
   State() = {};
   State().main_thread = std::this_thread::get_id();
+  _StartObjectRuntime();
 }
 
 void RuntimePerformInitializers(std::span<const Initializer> program) {
   State().program = program;
+  _MacOSDistributedNotifications::_SetUpState();
   for (const Initializer& initializer : program) initializer.set_up();
 }
 

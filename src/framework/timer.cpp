@@ -1,6 +1,6 @@
 #include "framework/timer.h"
 
-#include <vector>
+#include <map>
 
 #include "framework/runtime.h"
 #include "framework/toolkit.h"
@@ -21,14 +21,14 @@ class _CallLaterTimer final : public Object {
 };
 
 /// The live timers; standing here is what keeps them alive until they fire.
-std::vector<Ref<_CallLaterTimer>>& sCallLaterTimers() {
-  static auto& timers = *new std::vector<Ref<_CallLaterTimer>>;
+std::map<_CallLaterTimer*, Ref<_CallLaterTimer>>& sCallLaterTimers() {
+  static auto& timers = *new std::map<_CallLaterTimer*, Ref<_CallLaterTimer>>;
   return timers;
 }
 
 void _CallLaterTimer::Action() {
   const Ref<_CallLaterTimer> self(this);
-  std::erase(sCallLaterTimers(), self);
+  sCallLaterTimers().erase(this);
   _RunEvent(method_);
 }
 
@@ -36,7 +36,7 @@ void _CallLaterTimer::Action() {
 
 void Timer::CallLater(std::int64_t delay_ms, std::function<void()> method) {
   const auto timer = RuntimeNewObject<_CallLaterTimer>(std::move(method));
-  sCallLaterTimers().push_back(timer);
+  sCallLaterTimers().emplace(timer.Get(), timer);
   Toolkit::Current().CallLater(delay_ms, [live = RuntimeNewObject<WeakRef>(timer)] {
     if (const Ref<Object> object = live->Value()) static_cast<_CallLaterTimer&>(*object).Action();
   });

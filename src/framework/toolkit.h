@@ -13,7 +13,8 @@ class Window;
 class WindowPeer;
 
 /// How the framework's objects reach a screen, or a test. It decides nothing: it shows what the
-/// objects hold, and calls their input operations for what the user does.
+/// objects hold, and calls their input operations for what the user does. Of a change in the
+/// system's appearance it tells our notification centre, by _PostNotification.
 class Toolkit {
  public:
   /// The new toolkit is the current one as long as it lives. There is only ever one.

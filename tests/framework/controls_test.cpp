@@ -44,6 +44,7 @@ class Controls : public testing::Test {
  protected:
   Controls() {
     RuntimeInit();
+    framework::RuntimePerformInitializers({});
     list_->ColumnCount(4);
     menu_->InitialValue("A\rB\rC");
     RuntimeAddEventHandler(list_, Listbox::kChange,

@@ -16,7 +16,10 @@ using testing::StartsWith;
 
 class Failures : public testing::Test {
  protected:
-  Failures() { RuntimeInit(); }
+  Failures() {
+    RuntimeInit();
+    RuntimePerformInitializers({});
+  }
   ~Failures() override {
     RuntimePerformFinalizers();
     RuntimeExit();

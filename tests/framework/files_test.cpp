@@ -98,6 +98,7 @@ class Resources : public testing::Test {
  protected:
   Resources() {
     RuntimeInit();
+    framework::RuntimePerformInitializers({});
     SpecialFolder::_SetBundlePlatform(nullptr);
   }
   ~Resources() override {

@@ -88,6 +88,7 @@ class ProgramOn : public testing::Test {
   /// Opens the program with the library file as it lies there.
   void Start() {
     framework::RuntimeInit();
+    framework::RuntimePerformInitializers({});
     shell::_EarlyStartup();
     framework::_RunFrameworkInitialization(&shell::_LateStartup);
     window_ = window::wdwMain();
