@@ -181,6 +181,40 @@ TEST_F(Screen, BytesThatAreNoTextShowAsSuch) {
   EXPECT_EQ(model->index(0, 1).data().toString(), QString::fromUtf8("&S\uFFFD"));
 }
 
+class Watcher final : public _MacOSDistributedNotifications::iNotify {
+ public:
+  Watcher() { Register(*this); }
+  void _MacOSNotificationReceived(const String& name) override { heard.push_back(Text(name)); }
+  std::vector<std::string> heard;
+};
+
+TEST_F(Screen, ChangeOfThePaletteIsToldOnceAndLeavesTheStateAlone) {
+  Open();
+  hand_->Tick(0);
+  hand_->ChooseRow(1);
+  const auto watcher = RuntimeNewObject<Watcher>();
+  const auto set = [](QPalette::ColorRole role, const QColor& color) {
+    QPalette palette = QApplication::palette();
+    palette.setColor(role, color);
+    QApplication::setPalette(palette);
+  };
+  const QPalette before = QApplication::palette();
+  set(QPalette::Window, Qt::black);
+  set(QPalette::WindowText, Qt::white);
+  QTest::qWait(1);
+  EXPECT_THAT(watcher->heard, ElementsAre(_MacOSDistributedNotifications::kThemeChanged));
+  set(QPalette::Highlight, Qt::red);
+  QTest::qWait(1);
+  EXPECT_THAT(watcher->heard, ElementsAre(_MacOSDistributedNotifications::kThemeChanged,
+                                          _MacOSDistributedNotifications::kColorsChanged));
+  QApplication::setPalette(before);
+  QTest::qWait(1);
+  EXPECT_EQ(watcher->heard.size(), 3U);
+  EXPECT_EQ(window_->lbContaining()->ListIndex(), 1);
+  EXPECT_TRUE(Find<QTableView>("lbContaining").selectionModel()->isRowSelected(1, {}));
+  EXPECT_EQ(Stars().size(), 7U);
+}
+
 TEST_F(Screen, QuitEndsTheRunAndEditHasNothingToDo) {
   Open();
   for (const char* const name :
@@ -206,6 +240,7 @@ TEST_F(Screen, MessageWaitsForTheUserAndTheProgramGoesOn) {
     box->accept();
   });
   RuntimeInit();
+  RuntimePerformInitializers({});
   shell::_EarlyStartup();
   _RunFrameworkInitialization([] {});
   waiting.start(10);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "framework/application.h"
+#include "toolkit/qt/appearance.h"
 #include "toolkit/qt/native_window.h"
 #include "toolkit/qt/text.h"
 
@@ -44,6 +45,7 @@ void QtToolkit::Initialise() {
   // A message box that closes before there is a window does not end the program; the window says
   // itself when it does.
   QApplication::setQuitOnLastWindowClosed(false);
+  new Appearance(application_.get());
 }
 
 std::unique_ptr<WindowPeer> QtToolkit::Show(const Ref<Window>& window) {

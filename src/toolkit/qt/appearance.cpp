@@ -1,0 +1,83 @@
+#include "toolkit/qt/appearance.h"
+
+#include <QApplication>
+#include <QEvent>
+
+#include "framework/local_object_runtime.h"
+#include "framework/notifications.h"
+#include "framework/runtime.h"
+
+namespace toolkit::qt {
+
+namespace {
+
+bool IsDark(const QPalette& palette) {
+  return palette.color(QPalette::Window).lightness() <
+         palette.color(QPalette::WindowText).lightness();
+}
+
+QPalette DarkPalette() {
+  const QColor window(0x2d, 0x2d, 0x2d);
+  const QColor base(0x1e, 0x1e, 0x1e);
+  const QColor text(0xee, 0xee, 0xee);
+  const QColor faint(0x8c, 0x8c, 0x8c);
+  QPalette palette(text, window, window.lighter(150), window.darker(180), window.lighter(120), text,
+                   Qt::white, base, window);
+  palette.setColor(QPalette::Button, window.lighter(115));
+  palette.setColor(QPalette::AlternateBase, window);
+  palette.setColor(QPalette::ToolTipBase, window.lighter(130));
+  palette.setColor(QPalette::ToolTipText, text);
+  palette.setColor(QPalette::PlaceholderText, faint);
+  palette.setColor(QPalette::Highlight, QColor(0x30, 0x8c, 0xc6));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(QPalette::Disabled, role, faint);
+  }
+  return palette;
+}
+
+void SetAccent(QPalette& palette, const QColor& accent) {
+  palette.setColor(QPalette::Highlight, accent);
+  palette.setColor(QPalette::HighlightedText, qGray(accent.rgb()) > 160 ? Qt::black : Qt::white);
+}
+
+}  // namespace
+
+Appearance::Appearance(QObject* application)
+    : QObject(application), told_(QApplication::palette()) {
+  application->installEventFilter(this);
+  connect(&portal_, &SettingsPortal::Changed, this, [this] { FollowPortal(); });
+}
+
+bool Appearance::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ApplicationPaletteChange && !telling_) {
+    // A change may take several steps; what comes of it is told once.
+    telling_ = true;
+    QMetaObject::invokeMethod(
+        this, [this] { TellOfChange(); }, Qt::QueuedConnection);
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+void Appearance::FollowPortal() {
+  // An empty palette is the one that Qt has from the desktop or its style.
+  QApplication::setPalette(QPalette());
+  QPalette palette = QApplication::palette();
+  if (portal_.Dark() && !IsDark(palette)) palette = DarkPalette();
+  if (portal_.Accent()) SetAccent(palette, *portal_.Accent());
+  if (palette != QApplication::palette()) QApplication::setPalette(palette);
+}
+
+void Appearance::TellOfChange() {
+  telling_ = false;
+  const QPalette now = QApplication::palette();
+  if (now == told_) return;
+  const bool theme = IsDark(now) != IsDark(told_);
+  told_ = now;
+  framework::_RunEvent([theme] {
+    using namespace framework::_MacOSDistributedNotifications;
+    framework::_PostNotification(theme ? kThemeChanged : kColorsChanged);
+  });
+}
+
+}  // namespace toolkit::qt

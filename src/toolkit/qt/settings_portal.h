@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QColor>
+#include <QDBusMessage>
+#include <QObject>
+#include <optional>
+
+namespace toolkit::qt {
+
+/// The desktop's own settings of appearance, from the settings portal on the session bus. It asks
+/// without waiting, and hears of each change. Without a bus or a portal, and as long as there is no
+/// answer, it holds what no desktop prefers anything would say; an answer that makes no sense
+/// counts as none.
+class SettingsPortal final : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit SettingsPortal(QObject* parent);
+
+  /// Whether the desktop prefers dark.
+  bool Dark() const { return dark_; }
+  /// The desktop's accent colour; none when it has none.
+  std::optional<QColor> Accent() const { return accent_; }
+
+ signals:
+  /// One of the two has changed.
+  void Changed();
+
+ private slots:
+  void SettingChanged(const QDBusMessage& message);
+
+ private:
+  void Ask(const QString& key);
+  void Take(const QString& key, const QVariant& value);
+
+  bool dark_ = false;
+  std::optional<QColor> accent_;
+};
+
+}  // namespace toolkit::qt

@@ -1,0 +1,49 @@
+# For the tests of the built program on a real X server, which source it with $program set: brings up
+# a server of their own, and what a user does there. Everything goes when the script ends.
+
+work=$(mktemp -d)
+started=()
+trap 'for id in "${started[@]}"; do kill "$id" 2>/dev/null || true; done; rm -rf "$work"' EXIT
+fail() { echo "FAILED: $*"; exit 1; }
+
+unset WAYLAND_DISPLAY QT_QPA_PLATFORM
+export XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
+exec 3<>"$work/display"
+Xvfb -displayfd 3 -screen 0 1000x900x24 >"$work/xvfb.log" 2>&1 &
+server=$!
+started+=("$server")
+for _ in $(seq 100); do [ -s "$work/display" ] && break; sleep 0.05; done
+[ -s "$work/display" ] || fail "no X server: $(cat "$work/xvfb.log")"
+DISPLAY=:$(tr -d '\n' <"$work/display")
+export DISPLAY
+
+# Starts the program and waits for its window.
+start() {
+  "$program" 2>"$work/stderr" &
+  id=$!
+  started+=("$id")
+  window=$(timeout 20 xdotool search --sync --onlyvisible --pid "$id" --name '^Orrel Pitchsieve$' | head -1)
+  [ -n "$window" ] || fail "no window"
+  xdotool windowfocus --sync "$window"
+  # The content area lies below the menu bar, and is 605 high.
+  eval "$(xdotool getwindowgeometry --shell "$window")"
+  above=$((HEIGHT - 605))
+  [ "$WIDTH" -eq 615 ] || fail "the window is $WIDTH wide"
+}
+# Clicks at a place of the content area.
+click() { xdotool mousemove --window "$window" "$1" $(($2 + above)) click 1; }
+# Pixels of a colour in a rectangle of the content area: pixels COLOUR WIDTH HEIGHT X Y
+pixels() {
+  import -window "$window" -crop "$2x$3+$4+$(($5 + above))" "$work/part.png"
+  convert "$work/part.png" -fill black +opaque "$1" -fill white -opaque "$1" -format '%[fx:round(mean*w*h)]' info:
+}
+# Waits until there are at least so many such pixels, or none: until_there COUNT COLOUR W H X Y
+until_there() { for _ in $(seq 100); do [ "$(pixels "${@:2}")" -ge "$1" ] && return; sleep 0.05; done; fail "not there: $*"; }
+until_gone() { for _ in $(seq 100); do [ "$(pixels "$@")" -eq 0 ] && return; sleep 0.05; done; fail "still there: $*"; }
+ends_well() {
+  local status=0
+  wait "$id" || status=$?
+  [ "$status" -eq 0 ] || fail "status $status after $1: $(cat "$work/stderr")"
+}
+
+green='#008100'

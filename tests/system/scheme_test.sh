@@ -1,0 +1,50 @@
+#!/usr/bin/env bash
+# The built program under a desktop that prefers dark, then light, then dark again: it opens in the
+# desktop's colours and follows them while it runs, and its state stays.
+# usage: scheme_test.sh PROGRAM PORTAL
+set -euo pipefail
+[ -n "${ON_A_BUS_OF_ITS_OWN:-}" ] || ON_A_BUS_OF_ITS_OWN=1 exec dbus-run-session -- "$0" "$@"
+program=$(realpath "$1")
+. "$(dirname "$0")/on_x.sh"
+
+coproc portal { "$2"; }
+started+=("$portal_PID")
+read -r answer <&"${portal[0]}"
+[ "$answer" = ready ] || fail "no portal"
+tell() { echo "$*" >&"${portal[1]}"; read -r answer <&"${portal[0]}"; }
+
+# Where there is nothing but the window's ground, and a row that can be chosen.
+ground='100 20 30 575'
+dark='#2D2D2D'
+light='#EFEFEF'
+
+tell color-scheme 1
+start
+until_there 2000 "$dark" $ground
+click 38 200
+click 300 218
+until_there 8 "$green" 15 20 15 188
+chosen='60 6 280 215'
+until_there 200 '#308CC6' $chosen
+
+tell color-scheme 2
+until_there 2000 "$light" $ground
+tell accent-color 0.8 0.2 0.6
+until_there 200 '#CC3399' $chosen
+tell color-scheme 1
+until_there 2000 "$dark" $ground
+until_there 200 '#CC3399' $chosen
+until_there 8 "$green" 15 20 15 188
+tell nonsense
+until_there 2000 "$light" $ground
+until_there 8 "$green" 15 20 15 188
+xdotool key ctrl+q
+ends_well "following the scheme"
+
+tell color-scheme 1
+tell mute
+start
+until_there 2000 "$light" $ground
+xdotool key ctrl+q
+ends_well "a portal that does not answer"
+echo "Opened dark, and followed the desktop from dark to light and back."
