@@ -15,7 +15,7 @@ tell() { echo "$*" >&"${portal[1]}"; read -r answer <&"${portal[0]}"; }
 
 # Where there is nothing but the window's ground, and a row that can be chosen.
 ground='100 20 30 575'
-dark='#2D2D2D'
+dark='#1E1E1E'
 light='#EFEFEF'
 
 tell color-scheme 1

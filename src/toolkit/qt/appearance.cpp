@@ -17,15 +17,16 @@ bool IsDark(const QPalette& palette) {
 }
 
 QPalette DarkPalette() {
-  const QColor window(0x2d, 0x2d, 0x2d);
-  const QColor base(0x1e, 0x1e, 0x1e);
+  // Boxes and lists stand out by being lighter: the style draws their outlines darker than the
+  // ground, and a green that is made for paper wants the ground as dark as it can be.
+  const QColor window(0x1e, 0x1e, 0x1e);
+  const QColor base(0x38, 0x38, 0x38);
   const QColor text(0xee, 0xee, 0xee);
   const QColor faint(0x8c, 0x8c, 0x8c);
-  QPalette palette(text, window, window.lighter(150), window.darker(180), window.lighter(120), text,
+  QPalette palette(text, window, window.lighter(250), window.darker(180), window.lighter(150), text,
                    Qt::white, base, window);
-  palette.setColor(QPalette::Button, window.lighter(115));
-  palette.setColor(QPalette::AlternateBase, window);
-  palette.setColor(QPalette::ToolTipBase, window.lighter(130));
+  palette.setColor(QPalette::Button, base);
+  palette.setColor(QPalette::ToolTipBase, base);
   palette.setColor(QPalette::ToolTipText, text);
   palette.setColor(QPalette::PlaceholderText, faint);
   palette.setColor(QPalette::Highlight, QColor(0x30, 0x8c, 0xc6));
