@@ -6,7 +6,7 @@
 #include "framework/runtime.h"
 #include "framework/special_folder.h"
 #include "framework/text_input_stream.h"
-#include "support/folder.h"
+#include "support/test_bundle.h"
 #include "toolkit/memory/memory_toolkit.h"
 
 namespace {
@@ -128,22 +128,10 @@ TEST_F(Resources, LieBesideTheExecutableUnderItsOwnNameFirst) {
   EXPECT_EQ(std::string(GetResource("file")->Name()), "file");
 }
 
-class Bundle final : public BundlePlatform {
- public:
-  Bundle(std::string path, int& asked) : path_(std::move(path)), asked_(asked) {}
-  String ResourcePath() override {
-    ++asked_;
-    return path_;
-  }
-
- private:
-  std::string path_;
-  int& asked_;
-};
-
 TEST_F(Resources, OfABundleAreAskedForOnlyWhileTheyAreMissing) {
-  int asked = 0;
-  SpecialFolder::_SetBundlePlatform(std::make_unique<Bundle>(folder_.Path("bundle"), asked));
+  int& asked = support::TestBundle::asked;
+  asked = 0;
+  SpecialFolder::_SetBundlePlatform(std::make_unique<support::TestBundle>(folder_.Path("bundle")));
   const auto missing = SpecialFolder::Resources();
   EXPECT_FALSE(missing->Exists());
   EXPECT_NE(SpecialFolder::Resources(), missing);

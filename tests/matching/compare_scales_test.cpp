@@ -1,6 +1,5 @@
 #include "matching/compare_scales.h"
 
-#include "framework/text.h"
 #include "support/program.h"
 #include "toolkit/memory/memory_toolkit.h"
 
@@ -12,151 +11,87 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-/// A pass over controls that stand in no window.
-class Pass : public testing::Test, public matching::SearchWindow {
+/// A pass over ticks and options that were set without the user, so that nothing else runs.
+class Pass : public ProgramOn<toolkit::memory::MemoryToolkit> {
  protected:
-  Pass() {
-    for (auto& box : boxes_) box = RuntimeNewObject<CheckBox>();
-    boxes_[0]->Caption("C");
-    root_->ListIndex(3);
-    exact_->ColumnCount(3);
-    containing_->ColumnCount(4);
-    for (const char* const name : {"A", "A# / Bb", "B", "C", "C# / Db", "D", "D# / Eb", "E", "F",
-                                   "F# / Gb", "G", "G# / Ab"}) {
-      labels_.Append(name);
-    }
-    for (const std::string& line : {kMajor, kMinor, kWholeTone, kTriad}) Add(line);
-  }
-
-  void Add(const std::string& line) {
-    const auto scale = RuntimeNewObject<pitch::TScale>();
-    scale->Constructor(Split(line, ","));
-    scales_.Append(scale);
-  }
-  void Compare(std::initializer_list<std::size_t> ticked) {
-    for (const auto& box : boxes_) box->Value(false);
-    for (const std::size_t i : ticked) boxes_[i]->Value(true);
-    matching::CompareScales(*this);
+  void Compare(std::initializer_list<int> ticked) {
+    for (int i = 0; i < 12; ++i) window_->cbScale(i)->Value(false);
+    for (const int i : ticked) window_->cbScale(i)->Value(true);
+    matching::CompareScales(*window_);
   }
   void CompareAll() { Compare({0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}); }
-
-  Ref<CheckBox> cbScale(std::int64_t i) const override {
-    return boxes_[static_cast<std::size_t>(i)];
+  void OnOtherRoots(bool in_list_only = false) {
+    window_->cbOther()->Value(true);
+    window_->cbRinL()->Value(in_list_only);
   }
-  Ref<CheckBox> cbOther() const override { return other_; }
-  Ref<CheckBox> cbRinL() const override { return in_list_; }
-  Ref<PopupMenu> pmRoot() const override { return root_; }
-  Ref<Label> lbValue() const override { return value_; }
-  Ref<Listbox> lbExact() const override { return exact_; }
-  Ref<Listbox> lbContaining() const override { return containing_; }
-  const Array<String>& Labels() const override { return labels_; }
-  const pitch::Scales& Scale() const override { return scales_; }
-
-  std::array<Ref<CheckBox>, 12> boxes_;
-  Ref<CheckBox> other_ = RuntimeNewObject<CheckBox>();
-  Ref<CheckBox> in_list_ = RuntimeNewObject<CheckBox>();
-  Ref<PopupMenu> root_ = RuntimeNewObject<PopupMenu>();
-  Ref<Label> value_ = RuntimeNewObject<Label>();
-  Ref<Listbox> exact_ = RuntimeNewObject<Listbox>();
-  Ref<Listbox> containing_ = RuntimeNewObject<Listbox>();
-  Array<String> labels_ = CreateArray<String>(-1);
-  pitch::Scales scales_ = CreateArray<Ref<pitch::TScale>>(-1);
 };
 
 TEST_F(Pass, UnderTheSelectedRoot) {
-  Compare({0, 4, 7});
-  EXPECT_EQ(Text(value_->Text()), "100010010000");
-  EXPECT_THAT(Rows(*exact_), ElementsAre("Triad|C"));
-  EXPECT_THAT(Rows(*containing_), ElementsAre("Major|C|2773"));
-  EXPECT_EQ(Text(containing_->Cell(0, 0)), "Bank");
+  Open();
   Compare({4, 7});
-  EXPECT_EQ(Text(value_->Text()), "10010000");
-  EXPECT_THAT(Rows(*exact_), IsEmpty());
-  EXPECT_THAT(Rows(*containing_), ElementsAre("Major|C|2773", "Triad|C|2192"));
+  EXPECT_EQ(Text(window_->lbValue()->Text()), "10010000");
+  EXPECT_THAT(Exact(), IsEmpty());
+  EXPECT_THAT(Containing(), ElementsAre("Major|C|2773", "Triad|C|2192"));
+  EXPECT_EQ(Text(window_->lbContaining()->Cell(0, 0)), "Bank");
 }
 
-TEST_F(Pass, WithNothingTickedShowsTheWholeLibrary) {
-  Add(Line("Nothing", {}));
+TEST_F(Pass, OfNothingAndOfEverything) {
+  Open(kFourScales + "\n" + Line("Nothing", {}) + "\n" +
+       Line("Chromatic", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}));
   Compare({});
-  EXPECT_EQ(Text(value_->Text()), "0");
-  EXPECT_THAT(Rows(*exact_), ElementsAre("Nothing|C"));
-  EXPECT_THAT(Rows(*containing_), SizeIs(4));
-}
-
-TEST_F(Pass, WithEverythingTickedFindsOnlyAllTwelve) {
-  Add(Line("Chromatic", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}));
-  other_->Value(true);
+  EXPECT_EQ(Text(window_->lbValue()->Text()), "0");
+  EXPECT_THAT(Exact(), ElementsAre("Nothing|C"));
+  EXPECT_THAT(Containing(), SizeIs(5));
+  OnOtherRoots();
+  Compare({});
+  EXPECT_THAT(Containing(), SizeIs(60));
   CompareAll();
-  EXPECT_THAT(Rows(*containing_), IsEmpty());
-  EXPECT_THAT(Rows(*exact_), SizeIs(12));
-  EXPECT_EQ(Rows(*exact_).back(), "Chromatic|B");
-}
-
-TEST_F(Pass, OverOtherRootsKeepsTheLibrarysOwnMask) {
-  other_->Value(true);
-  Compare({0, 4, 7});
-  EXPECT_THAT(Rows(*exact_), ElementsAre("Triad|C"));
-  EXPECT_THAT(Rows(*containing_), ElementsAre("Major|C|2773", "Minor|D|2906", "Minor|E|2906",
-                                              "Major|F|2773", "Major|G|2773", "Minor|A|2906"));
-  in_list_->Value(true);
-  Compare({0, 4, 7});
-  EXPECT_THAT(Rows(*containing_), ElementsAre("Major|C|2773", "Minor|E|2906", "Major|G|2773"));
+  EXPECT_THAT(Containing(), IsEmpty());
+  EXPECT_THAT(Exact(), SizeIs(12));
+  EXPECT_EQ(Exact().back(), "Chromatic|B");
+  OnOtherRoots(true);
+  Compare({});
+  EXPECT_THAT(Containing(), SizeIs(5)) << "no position passes";
 }
 
 TEST_F(Pass, SearchesTheSelectedRootAlsoWhenItIsNotTicked) {
-  other_->Value(true);
+  Open();
+  OnOtherRoots();
   Compare({4, 7});
-  EXPECT_THAT(Rows(*containing_), ElementsAre("Major|C|2773", "Triad|C|2192", "Major|D|2773",
-                                              "Minor|D|2906", "Minor|E|2906", "Major|F|2773",
-                                              "Major|G|2773", "Minor|A|2906", "Minor|B|2906"));
-  in_list_->Value(true);
+  EXPECT_THAT(Containing(), ElementsAre("Major|C|2773", "Triad|C|2192", "Major|D|2773",
+                                        "Minor|D|2906", "Minor|E|2906", "Major|F|2773",
+                                        "Major|G|2773", "Minor|A|2906", "Minor|B|2906"));
+  OnOtherRoots(true);
   Compare({4, 7});
-  EXPECT_THAT(Rows(*containing_),
+  EXPECT_THAT(Containing(),
               ElementsAre("Major|C|2773", "Triad|C|2192", "Minor|E|2906", "Major|G|2773"));
 }
 
 TEST_F(Pass, GivesARecordARowForEveryRootItMatchesOn) {
-  other_->Value(true);
+  Open();
+  OnOtherRoots();
   Compare({0, 2, 4, 6, 8, 10});
-  EXPECT_THAT(Rows(*exact_),
+  EXPECT_THAT(Exact(),
               ElementsAre("Whole Tone|C", "Whole Tone|D", "Whole Tone|E", "Whole Tone|F# / Gb",
                           "Whole Tone|G# / Ab", "Whole Tone|A# / Bb"));
-  Compare({});
-  EXPECT_THAT(Rows(*containing_), SizeIs(48));
-  EXPECT_EQ(Rows(*containing_).back(), "Triad|B|2192");
-  in_list_->Value(true);
-  Compare({});
-  EXPECT_THAT(Rows(*containing_), SizeIs(4)) << "no position passes";
 }
 
 TEST_F(Pass, NamesOtherRootsFromTheSelectedOneOn) {
-  other_->Value(true);
-  in_list_->Value(true);
-  root_->ListIndex(11);
-  boxes_[0]->Caption("G# / Ab");
+  Open();
+  window_->pmRoot()->Choose(11);
+  OnOtherRoots(true);
   Compare({0, 1});
-  EXPECT_THAT(Rows(*containing_), ElementsAre("Major|A|2773"));
-  Compare({0, 2});
-  EXPECT_THAT(Rows(*containing_),
-              ElementsAre("Major|G# / Ab|2773", "Minor|G# / Ab|2906", "Whole Tone|G# / Ab|2730",
-                          "Minor|A# / Bb|2906", "Whole Tone|A# / Bb|2730"));
+  EXPECT_THAT(Containing(), ElementsAre("Major|A|2773"));
 }
 
 TEST_F(Pass, WithoutNamesStopsAtTheFirstMatchElsewhere) {
-  labels_ = CreateArray<String>(-1);
-  other_->Value(true);
+  Open();
+  while (window_->Labels().LastIndex() >= 0) window_->Labels().Remove(0);
+  OnOtherRoots();
   EXPECT_THROW(Compare({0, 4, 7}), OutOfBoundsException);
-  EXPECT_THAT(Rows(*containing_), ElementsAre("Major|C|2773"));
+  EXPECT_THAT(Containing(), ElementsAre("Major|C|2773"));
   CompareAll();
-  EXPECT_THAT(Rows(*containing_), IsEmpty()) << "no match, no name asked for";
-}
-
-TEST_F(Pass, PassesOverALibraryThatIsNil) {
-  scales_ = {};
-  other_->Value(true);
-  Compare({0});
-  EXPECT_EQ(Text(value_->Text()), "100000000000");
-  EXPECT_THAT(Rows(*containing_), IsEmpty());
+  EXPECT_THAT(Containing(), IsEmpty()) << "no match, no name asked for";
 }
 
 }  // namespace

@@ -6,28 +6,13 @@
 #include <vector>
 
 #include "framework/runtime.h"
-#include "framework/special_folder.h"
 #include "framework/weak_ref.h"
 #include "library/load.h"
 #include "shell/start_up.h"
-#include "support/folder.h"
+#include "support/test_bundle.h"
 #include "window/main_window.h"
 
 namespace support {
-
-/// A bundle whose resources lie in a folder of the test's.
-class TestBundle final : public framework::BundlePlatform {
- public:
-  explicit TestBundle(std::string path) : path_(std::move(path)) {}
-  framework::String ResourcePath() override {
-    ++asked;
-    return path_;
-  }
-  static inline int asked = 0;
-
- private:
-  std::string path_;
-};
 
 /// A line of the library file, from the name and the semitones above the root.
 inline std::string Line(std::string_view name, std::initializer_list<int> semitones) {
