@@ -2,6 +2,6 @@
 #include "toolkit/qt/qt_toolkit.h"
 
 int main() {
-  toolkit::qt::QtToolkit toolkit("Orrel Pitchsieve");
+  toolkit::qt::QtToolkit toolkit("Orrel Pitchsieve", "orrel-pitchsieve");
   return shell::main();
 }

@@ -15,7 +15,7 @@ namespace support {
 /// QtToolkit under a name of its own, so that a fixture can make one.
 class QtTestToolkit final : public toolkit::qt::QtToolkit {
  public:
-  QtTestToolkit() : QtToolkit("Orrel Pitchsieve") {}
+  QtTestToolkit() : QtToolkit("Orrel Pitchsieve", "orrel-pitchsieve") {}
 };
 
 /// The native window of the program.

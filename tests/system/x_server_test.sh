@@ -4,7 +4,7 @@
 # does not crash.
 # usage: x_server_test.sh PROGRAM
 set -euo pipefail
-program=$(realpath "$1")
+program=$(realpath -s "$1")
 . "$(dirname "$0")/on_x.sh"
 
 start

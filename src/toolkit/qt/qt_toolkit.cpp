@@ -1,5 +1,7 @@
 #include "toolkit/qt/qt_toolkit.h"
 
+#include <QDir>
+#include <QIcon>
 #include <QMessageBox>
 #include <QTimer>
 #include <cstdlib>
@@ -25,6 +27,14 @@ void EndWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
   std::_Exit(EXIT_FAILURE);
 }
 
+QIcon Icon() {
+  QIcon icon;
+  for (const QFileInfo& picture : QDir(QStringLiteral(":/icon")).entryInfoList()) {
+    icon.addFile(picture.filePath());
+  }
+  return icon;
+}
+
 void ShowBox(QMessageBox::Icon icon, const std::string& title, const QString& text) {
   QMessageBox box(icon, QString::fromStdString(title), text, QMessageBox::Ok,
                   QApplication::activeWindow());
@@ -42,6 +52,9 @@ void QtToolkit::Initialise() {
   const auto usual = qInstallMessageHandler(&EndWithoutDisplay);
   application_ = std::make_unique<QApplication>(argument_count_, arguments_);
   qInstallMessageHandler(usual);
+  QApplication::setLayoutDirection(Qt::LeftToRight);
+  QApplication::setDesktopFileName(QString::fromStdString(desktop_entry_));
+  QApplication::setWindowIcon(Icon());
   // A message box that closes before there is a window does not end the program; the window says
   // itself when it does.
   QApplication::setQuitOnLastWindowClosed(false);

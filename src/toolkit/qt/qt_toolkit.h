@@ -8,12 +8,15 @@
 
 namespace toolkit::qt {
 
-/// The toolkit of the real program: Qt 6 Widgets. It reads no command line. Without a display,
-/// Initialise ends the process with one line on stderr and the status 1.
+/// The toolkit of the real program: Qt 6 Widgets. It reads no command line, and lays everything out
+/// from the left, whatever language the system speaks. The pictures below ":/icon", where the
+/// program has some, are the icon of its windows. Without a display, Initialise ends the process
+/// with one line on stderr and the status 1.
 class QtToolkit : public framework::Toolkit {
  public:
-  /// The name stands over message boxes.
-  explicit QtToolkit(std::string application_name) : name_(std::move(application_name)) {}
+  /// The name stands over message boxes; by its desktop entry the system knows the program.
+  QtToolkit(std::string application_name, std::string desktop_entry)
+      : name_(std::move(application_name)), desktop_entry_(std::move(desktop_entry)) {}
 
   void Initialise() override;
   std::unique_ptr<framework::WindowPeer> Show(
@@ -27,6 +30,7 @@ class QtToolkit : public framework::Toolkit {
 
  private:
   std::string name_;
+  std::string desktop_entry_;
   int argument_count_ = 1;
   char* arguments_[2] = {name_.data(), nullptr};
   std::unique_ptr<QApplication> application_;
