@@ -18,4 +18,4 @@ need() {
 }
 
 to_build=(g++ cmake make qt6-base-dev)
-on_a_virtual_screen=(xvfb xauth xdotool imagemagick fonts-dejavu-core dbus-daemon)
+on_a_virtual_screen=(xvfb xauth xdotool x11-utils imagemagick fonts-dejavu-core dbus-daemon)

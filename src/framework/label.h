@@ -19,6 +19,8 @@ class Label : public RectControl {
   Property<std::int64_t> TextAlign{*this, Change::Look};
   /// Black stands for the platform's text colour.
   Property<Color> TextColor{*this, Change::Look};
+  /// What is read out to someone who cannot see the label; empty for the text as it stands.
+  Property<String> _Spoken{*this, Change::Text};
 };
 
 }  // namespace framework

@@ -79,6 +79,7 @@ void wdwMainClass::_CreateNoteBox(std::int64_t index) {
 
 void wdwMainClass::_CreateStar(std::int64_t index) {
   CreateMember<lbStarClass, Label>(*this, "lbStar", index);
+  lbStar(index)->_Spoken("In the chosen scale.");
   _WireStar(lbStar(index));
 }
 

@@ -28,6 +28,7 @@ start() {
   # The content area lies below the menu bar, and is 605 high.
   eval "$(xdotool getwindowgeometry --shell "$window")"
   above=$((HEIGHT - 605))
+  [[ $(xprop -id "$window" _NET_WM_ICON) == *'Icon (32 x 32)'* ]] || fail "the window has no icon"
   [ "$WIDTH" -eq 615 ] || fail "the window is $WIDTH wide"
 }
 # Clicks at a place of the content area.

@@ -10,7 +10,10 @@ CheckBoxPeer::CheckBoxPeer(const framework::Ref<framework::CheckBox>& box, QWidg
     : ControlPeer(box, new QCheckBox(content)),
       box_(box),
       widget_(static_cast<QCheckBox*>(&Widget())) {
-  QObject::connect(widget_, &QCheckBox::clicked, widget_, [this] { box_->Toggle(); });
+  // A screen reader turns the tick over without a click.
+  QObject::connect(widget_, &QCheckBox::toggled, widget_, [this](bool ticked) {
+    if (ticked != box_->Value()) box_->Toggle();
+  });
 }
 
 void CheckBoxPeer::Show(Change what) {

@@ -71,6 +71,11 @@ void ControlPeer::Changed(Change what) {
 
 void ControlPeer::Title(const QString&, ControlPeer&) {}
 
+void ControlPeer::Remark(const QString& remark) {
+  remark_ = remark;
+  Describe();
+}
+
 void ControlPeer::Place() {
   // The frame keeps its measures. A text that is wider, in this platform's font, runs on past it as
   // far as nothing is in the way.
@@ -80,9 +85,8 @@ void ControlPeer::Place() {
 }
 
 void ControlPeer::Look() {
-  const QString help = Shown(control_->HelpTag());
-  widget_->setToolTip(ToolTip(help));
-  widget_->setAccessibleDescription(help);
+  widget_->setToolTip(ToolTip(Shown(control_->HelpTag())));
+  Describe();
   widget_->setEnabled(control_->Enabled());
   QFont font = widget_->font();
   if (control_->TextSize() > 0) font.setPixelSize(static_cast<int>(control_->TextSize()));
@@ -90,6 +94,12 @@ void ControlPeer::Look() {
   font.setItalic(control_->Italic());
   font.setUnderline(control_->Underline());
   widget_->setFont(font);
+}
+
+void ControlPeer::Describe() {
+  QStringList parts{remark_, Shown(control_->HelpTag())};
+  parts.removeAll(QString());
+  widget_->setAccessibleDescription(parts.join(QLatin1Char(' ')));
 }
 
 std::unique_ptr<ControlPeer> MakePeer(const Ref<RectControl>& control, QWidget* content) {

@@ -28,6 +28,10 @@ class ControlPeer : public framework::Peer {
   /// caption of its own.
   virtual void Title(const QString& title, class ControlPeer& label);
 
+  /// What a screen reader says of the control before its help: the text of the label at its left,
+  /// or nothing while that does not show.
+  void Remark(const QString& remark);
+
  protected:
   /// Shows what is special to the kind of control; called for each change, and at first.
   virtual void Show(framework::Change what) = 0;
@@ -37,9 +41,11 @@ class ControlPeer : public framework::Peer {
  private:
   void Place();
   void Look();
+  void Describe();
 
   framework::Ref<framework::RectControl> control_;
   QPointer<QWidget> widget_;
+  QString remark_;
 };
 
 /// The peer of a control, by its class, with its widget in the given content area.

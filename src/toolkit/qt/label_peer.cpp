@@ -38,9 +38,23 @@ LabelPeer::LabelPeer(const Ref<Label>& label, QWidget* content)
   widget_->setTextFormat(Qt::PlainText);
 }
 
+void LabelPeer::RemarkOn(ControlPeer& other) {
+  remarks_on_ = &other;
+  TellRemark();
+}
+
+void LabelPeer::TellRemark() {
+  if (remarks_on_ == nullptr) return;
+  remarks_on_->Remark(label_->Visible() ? widget_->accessibleName() : QString());
+}
+
 void LabelPeer::Show(Change what) {
+  if (what == Change::Visible) TellRemark();
   if (what != Change::Text && what != Change::Look) return;
   widget_->setText(Shown(label_->Text()));
+  const String& spoken = label_->_Spoken();
+  widget_->setAccessibleName(Shown(spoken.View().empty() ? label_->Text() : spoken));
+  TellRemark();
   const bool centred = label_->TextAlign() == Label::kCentre;
   widget_->setAlignment((centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter);
   const Color color = label_->TextColor();

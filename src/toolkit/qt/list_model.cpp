@@ -10,10 +10,17 @@ void ListModel::TakeOver() {
   endResetModel();
 }
 
+void ListModel::SetColumns(int columns) {
+  if (columns_ == columns) return;
+  beginResetModel();
+  columns_ = columns;
+  endResetModel();
+}
+
 int ListModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
 
 int ListModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(list_->ColumnCount());
+  return parent.isValid() ? 0 : columns_;
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {

@@ -49,6 +49,13 @@ void ListView::SetColumnShares(std::vector<int> shares) {
   ShareWidth();
 }
 
+QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  // In a table, Home and End alone would stay in the row.
+  if (action == MoveHome) return model()->index(0, 0);
+  if (action == MoveEnd) return model()->index(model()->rowCount() - 1, 0);
+  return QTableView::moveCursor(action, modifiers);
+}
+
 void ListView::keyPressEvent(QKeyEvent* event) {
   const bool arrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
   if (event->key() == Qt::Key_Escape && selectionModel()->hasSelection()) {

@@ -12,7 +12,8 @@ using namespace framework;
 
 namespace {
 
-/// The widths as the view wants them; a list without a text for a column gives that column none.
+/// The widths as the view wants them, as far as the last column that has one; a column that the
+/// list gives no width has none.
 std::vector<int> Shares(const Listbox& list) {
   std::vector<int> shares(static_cast<std::size_t>(list.ColumnCount()));
   const auto widths = Split(list.ColumnWidths(), ",");
@@ -23,6 +24,7 @@ std::vector<int> Shares(const Listbox& list) {
     shares[static_cast<std::size_t>(i)] =
         static_cast<int>(percent ? width * 10 : width * 1000 / static_cast<double>(list.Width()));
   }
+  while (!shares.empty() && shares.back() == 0) shares.pop_back();
   return shares;
 }
 
@@ -43,7 +45,14 @@ void ListboxPeer::Title(const QString& title, ControlPeer&) { widget_->setAccess
 void ListboxPeer::Show(Change what) {
   if (what == Change::Rows) RefreshLater();
   if (what == Change::ListIndex && !refresh_pending_) ShowSelection();
-  if (what == Change::Look || what == Change::Visible) widget_->SetColumnShares(Shares(*list_));
+  if (what == Change::Look || what == Change::Visible) ShareColumns();
+}
+
+void ListboxPeer::ShareColumns() {
+  const std::vector<int> shares = Shares(*list_);
+  model_->SetColumns(static_cast<int>(shares.size()));
+  widget_->SetColumnShares(shares);
+  if (!refresh_pending_) ShowSelection();
 }
 
 void ListboxPeer::RefreshLater() {

@@ -19,6 +19,7 @@ class ListboxPeer final : public ControlPeer {
   void Show(framework::Change what) override;
 
  private:
+  void ShareColumns();
   void RefreshLater();
   void Refresh();
   void ShowSelection();

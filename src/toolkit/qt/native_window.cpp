@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "framework/label.h"
+#include "toolkit/qt/label_peer.h"
 #include "toolkit/qt/menu_builder.h"
 #include "toolkit/qt/text.h"
 
@@ -23,6 +24,7 @@ NativeWindow::NativeWindow(const Ref<framework::Window>& window)
     peers_.push_back(MakePeer(RuntimeCheckCast<RectControl>(control), content_));
   }
   TitleControls();
+  TieRemarks();
   OrderTabs();
 
   const auto size = [&](std::int64_t width, std::int64_t height) {
@@ -37,6 +39,8 @@ NativeWindow::NativeWindow(const Ref<framework::Window>& window)
 
 void NativeWindow::Added(const Ref<RectControl>& control) {
   peers_.push_back(MakePeer(control, content_));
+  TitleControls();
+  TieRemarks();
   OrderTabs();
 }
 
@@ -60,6 +64,20 @@ void NativeWindow::TitleControls() {
     }
     if (title == nullptr) continue;
     peer->Title(Shown(static_cast<const Label&>(title->Control()).Text()), *title);
+  }
+}
+
+void NativeWindow::TieRemarks() {
+  for (const auto& peer : peers_) {
+    auto* const label = dynamic_cast<LabelPeer*>(peer.get());
+    if (label == nullptr) continue;
+    const QRect frame = label->Widget().geometry();
+    for (const auto& other : peers_) {
+      const QRect beside = other->Widget().geometry();
+      const bool level =
+          beside.top() <= frame.center().y() && beside.bottom() >= frame.center().y();
+      if (level && beside.left() == frame.right() + 1) label->RemarkOn(*other);
+    }
   }
 }
 

@@ -21,7 +21,10 @@ class NativeWindow final : public QMainWindow, public framework::WindowPeer {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  /// Names each control that shows no caption after the label above it.
   void TitleControls();
+  /// Makes each label that touches a control at its right a remark on it.
+  void TieRemarks();
   void OrderTabs();
 
   framework::Window& window_;  ///< which owns this peer
