@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# The built program as a screen reader meets it: on the accessibility bus, under a window manager.
+# usage: accessibility_test.sh PROGRAM
+set -euo pipefail
+program=$(realpath "$1")
+client=$(dirname "$(realpath "$0")")/accessibility_client.py
+work=$(mktemp -d)
+started=()
+trap 'for id in "${started[@]}"; do kill "$id" 2>/dev/null || true; done; rm -rf "$work"' EXIT
+
+unset WAYLAND_DISPLAY QT_QPA_PLATFORM
+export XDG_RUNTIME_DIR=$work HOME=$work LC_ALL=C.UTF-8 QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+exec 3<>"$work/display"
+Xvfb -displayfd 3 -screen 0 1000x900x24 >"$work/xvfb.log" 2>&1 &
+started+=($!)
+for _ in $(seq 100); do [ -s "$work/display" ] && break; sleep 0.05; done
+export DISPLAY=:$(tr -d '\n' <"$work/display")
+openbox >"$work/openbox.log" 2>&1 &
+started+=($!)
+timeout 90 dbus-run-session -- bash -c '
+  /usr/libexec/at-spi-bus-launcher --launch-immediately >&2 &
+  bus=$!
+  "$0" &
+  trap "kill $! $bus" EXIT
+  /usr/bin/python3 "$1"' "$program" "$client" 2>"$work/log" || { cat "$work/log"; echo "FAILED"; exit 1; }
