@@ -18,6 +18,16 @@ INSTANTIATE_TYPED_TEST_SUITE_P(OnQt, Behaviour, QtHand);
 
 class Screen : public Behaviour<QtHand> {
  protected:
+  /// Opens the window after a change to the looks of the system.
+  void OpenWith(const std::function<void()>& change) {
+    folder_.Write(library::kFileName, kFourScales);
+    RuntimeInit();
+    shell::_EarlyStartup();
+    _RunFrameworkInitialization([] {});
+    change();
+    window_ = window::wdwMain();
+    hand_ = std::make_unique<QtHand>(toolkit_, *window_);
+  }
   QWidget& WidgetOf(const Control& control) {
     std::string name(control.Name());
     if (control.Index() != Control::kNoIndex) name += std::to_string(control.Index());
@@ -88,6 +98,39 @@ TEST_F(Screen, StarIsWholeAndGreenInItsStrip) {
   EXPECT_TRUE(QRect(0, 1, 15, 18).contains(ink)) << "whole";
   EXPECT_LE(std::abs(ink.center().y() - 9), 1) << "at its row";
   EXPECT_EQ(star.pixelColor(ink.center()), QColor(0, 129, 0));
+}
+
+TEST_F(Screen, LargerLettersFitTheSamePlaces) {
+  QFont font;
+  OpenWith([&] {
+    font = QApplication::font();
+    QFont larger = font;
+    larger.setPointSizeF(font.pointSizeF() * 1.4);
+    QApplication::setFont(larger);
+  });
+  for (const char* const name : {"cbOther", "cbRinL", "cbScale1", "Label4"}) {
+    const QWidget& widget = Find(name);
+    EXPECT_GE(widget.width(), widget.sizeHint().width()) << name;
+    EXPECT_LT(widget.geometry().right(), Find("lbExact").x()) << name;
+  }
+  EXPECT_GT(Find("pmRoot").width(), 80);
+  QApplication::setFont(font);
+}
+
+TEST_F(Screen, BoxesHaveOutlinesOnABlackGround) {
+  OpenWith([] {
+    QApplication::setPalette(
+        QPalette(Qt::white, Qt::black, Qt::black, Qt::black, Qt::black, Qt::white, Qt::black));
+  });
+  for (const char* const name : {"cbScale0", "lbExact", "pmRoot"}) {
+    const QImage picture = Find(name).grab().toImage();
+    int light = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      light += picture.pixelColor(0, y).lightness() > 100 ? 1 : 0;
+    }
+    EXPECT_GE(light, 10) << name;
+  }
+  QApplication::setPalette(QPalette());
 }
 
 TEST_F(Screen, TabGoesDownTheLeftColumnThenTheRight) {

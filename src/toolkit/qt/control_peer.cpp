@@ -4,6 +4,7 @@
 
 #include "framework/window.h"
 #include "toolkit/qt/check_box_peer.h"
+#include "toolkit/qt/condensed.h"
 #include "toolkit/qt/label_peer.h"
 #include "toolkit/qt/listbox_peer.h"
 #include "toolkit/qt/popup_menu_peer.h"
@@ -78,9 +79,14 @@ void ControlPeer::Remark(const QString& remark) {
 
 void ControlPeer::Place() {
   // The frame keeps its measures. A text that is wider, in this platform's font, runs on past it as
-  // far as nothing is in the way.
+  // far as nothing is in the way, and is condensed where something is.
   QRect place = FrameOf(*control_);
-  place.setWidth(std::max(place.width(), std::min(WantedWidth(), RoomFor(*control_))));
+  const int room = std::max(place.width(), RoomFor(*control_));
+  widget_->setFont(Condensed(widget_->font(), room, [this](const QFont& font) {
+    widget_->setFont(font);
+    return WantedWidth();
+  }));
+  place.setWidth(std::max(place.width(), std::min(WantedWidth(), room)));
   widget_->setGeometry(place);
 }
 

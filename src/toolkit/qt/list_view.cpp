@@ -2,18 +2,22 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <algorithm>
+
+#include "toolkit/qt/condensed.h"
 
 namespace toolkit::qt {
 
 namespace {
 
 /// Draws cells without the focus frame of a single cell: a row is what is chosen here, and the list
-/// shows by itself that it has the focus.
+/// shows by itself that it has the focus. A text too wide for its column is condensed.
 class RowDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -22,6 +26,26 @@ class RowDelegate final : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
     option->state &= ~QStyle::State_HasFocus;
+    option->font = Condensed(option->font, RoomIn(*option), [&](const QFont& font) {
+      option->fontMetrics = QFontMetrics(font);
+      return option->fontMetrics.horizontalAdvance(option->text);
+    });
+  }
+  /// A text that is cut all the same is told whole, in place of the help of the list.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    if (cell.fontMetrics.horizontalAdvance(cell.text) <= RoomIn(cell)) return false;
+    QToolTip::showText(event->globalPos(), cell.text.toHtmlEscaped(), view);
+    return true;
+  }
+
+ private:
+  static int RoomIn(const QStyleOptionViewItem& cell) {
+    const QStyle& style = *cell.widget->style();
+    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &cell, cell.widget) + 1;
+    return cell.rect.width() - 2 * margin - 1;  // widths are rounded
   }
 };
 
@@ -84,6 +108,11 @@ void ListView::paintEvent(QPaintEvent* event) {
 void ListView::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
   ShareWidth();
+}
+
+void ListView::scrollContentsBy(int dx, int dy) {
+  QTableView::scrollContentsBy(dx, dy);
+  viewport()->update();  // or the frame of the focus would scroll as well
 }
 
 void ListView::changeEvent(QEvent* event) {

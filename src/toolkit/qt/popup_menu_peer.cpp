@@ -1,6 +1,8 @@
 #include "toolkit/qt/popup_menu_peer.h"
 
 #include <QLabel>
+#include <QStyleOptionComboBox>
+#include <algorithm>
 
 #include "toolkit/qt/text.h"
 
@@ -20,6 +22,21 @@ void PopupMenuPeer::Title(const QString& title, ControlPeer& label) {
   widget_->setAccessibleName(title);
   // A screen reader takes the chosen entry for the name, but knows the label that belongs to it.
   static_cast<QLabel&>(label.Widget()).setBuddy(widget_);
+}
+
+int PopupMenuPeer::WantedWidth() const {
+  QStyleOptionComboBox option;
+  option.initFrom(widget_);
+  const int room =
+      widget_->style()
+          ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, widget_)
+          .width();
+  int widest = 0;
+  for (int row = 0; row < widget_->count(); ++row) {
+    widest = std::max(widest, widget_->fontMetrics().horizontalAdvance(widget_->itemText(row)));
+  }
+  constexpr int kMargins = 4;
+  return widget_->width() - room + widest + kMargins;
 }
 
 void PopupMenuPeer::Show(Change what) {

@@ -16,6 +16,7 @@ class PopupMenuPeer final : public ControlPeer {
 
  protected:
   void Show(framework::Change what) override;
+  int WantedWidth() const override;
 
  private:
   framework::Ref<framework::PopupMenu> menu_;

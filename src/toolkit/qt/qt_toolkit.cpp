@@ -11,6 +11,7 @@
 #include "framework/application.h"
 #include "toolkit/qt/appearance.h"
 #include "toolkit/qt/native_window.h"
+#include "toolkit/qt/outline_style.h"
 #include "toolkit/qt/text.h"
 
 namespace toolkit::qt {
@@ -52,6 +53,9 @@ void QtToolkit::Initialise() {
   const auto usual = qInstallMessageHandler(&EndWithoutDisplay);
   application_ = std::make_unique<QApplication>(argument_count_, arguments_);
   qInstallMessageHandler(usual);
+  if (QApplication::style()->name() == QLatin1String(OutlineStyle::kBase)) {
+    QApplication::setStyle(new OutlineStyle);
+  }
   QApplication::setLayoutDirection(Qt::LeftToRight);
   QApplication::setDesktopFileName(QString::fromStdString(desktop_entry_));
   QApplication::setWindowIcon(Icon());
