@@ -19,7 +19,7 @@ export DISPLAY
 
 # Starts the program and waits for its window.
 start() {
-  "$program" 2>"$work/stderr" &
+  LC_ALL=${locale:-C.UTF-8} "$program" 2>"$work/stderr" &
   id=$!
   started+=("$id")
   window=$(timeout 20 xdotool search --sync --onlyvisible --pid "$id" --name '^Orrel Pitchsieve$' | head -1)

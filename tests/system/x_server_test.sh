@@ -2,9 +2,10 @@
 # The built program on a real X server: it opens, is clicked, shows rows and stars, and ends with
 # status 0 by menu and by key; when the display goes or was never there it ends with a status, and
 # does not crash.
-# usage: x_server_test.sh PROGRAM
+# usage: x_server_test.sh PROGRAM [LOCALE OF THE PROGRAM]
 set -euo pipefail
 program=$(realpath -s "$1")
+locale=${2:-C.UTF-8}
 . "$(dirname "$0")/on_x.sh"
 
 start
