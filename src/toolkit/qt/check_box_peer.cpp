@@ -11,7 +11,7 @@ CheckBoxPeer::CheckBoxPeer(const framework::Ref<framework::CheckBox>& box, QWidg
       box_(box),
       widget_(static_cast<QCheckBox*>(&Widget())) {
   // A screen reader turns the tick over without a click.
-  QObject::connect(widget_, &QCheckBox::toggled, widget_, [this](bool ticked) {
+  QObject::connect(widget_, &QCheckBox::toggled, Context(), [this](bool ticked) {
     if (ticked != box_->Value()) box_->Toggle();
   });
 }

@@ -37,6 +37,8 @@ class ControlPeer : public framework::Peer {
   virtual void Show(framework::Change what) = 0;
   /// The width that the widget needs to show its text whole; 0 for a widget that has no say.
   virtual int WantedWidth() const { return 0; }
+  /// The context of every connection to the peer: none outlives it, though the widget does.
+  QObject* Context() { return &context_; }
 
  private:
   void Place();
@@ -46,6 +48,7 @@ class ControlPeer : public framework::Peer {
   framework::Ref<framework::RectControl> control_;
   QPointer<QWidget> widget_;
   QString remark_;
+  QObject context_;
 };
 
 /// The peer of a control, by its class, with its widget in the given content area.

@@ -36,7 +36,7 @@ ListboxPeer::ListboxPeer(const Ref<Listbox>& list, QWidget* content)
       widget_(static_cast<ListView*>(&Widget())),
       model_(new ListModel(list, widget_)) {
   widget_->setModel(model_);
-  QObject::connect(widget_->selectionModel(), &QItemSelectionModel::selectionChanged, widget_,
+  QObject::connect(widget_->selectionModel(), &QItemSelectionModel::selectionChanged, Context(),
                    [this] { TakeSelection(); });
 }
 
@@ -59,7 +59,7 @@ void ListboxPeer::RefreshLater() {
   if (refresh_pending_) return;
   refresh_pending_ = true;
   QMetaObject::invokeMethod(
-      widget_, [this] { Refresh(); }, Qt::QueuedConnection);
+      Context(), [this] { Refresh(); }, Qt::QueuedConnection);
 }
 
 void ListboxPeer::Refresh() {

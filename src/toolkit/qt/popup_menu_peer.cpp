@@ -14,7 +14,7 @@ PopupMenuPeer::PopupMenuPeer(const framework::Ref<framework::PopupMenu>& menu, Q
     : ControlPeer(menu, new QComboBox(content)),
       menu_(menu),
       widget_(static_cast<QComboBox*>(&Widget())) {
-  QObject::connect(widget_, &QComboBox::activated, widget_,
+  QObject::connect(widget_, &QComboBox::activated, Context(),
                    [this](int row) { menu_->Choose(row); });
 }
 
