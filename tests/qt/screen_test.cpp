@@ -22,6 +22,7 @@ class Screen : public Behaviour<QtHand> {
   void OpenWith(const std::function<void()>& change) {
     folder_.Write(library::kFileName, kFourScales);
     RuntimeInit();
+    RuntimePerformInitializers({});
     shell::_EarlyStartup();
     _RunFrameworkInitialization([] {});
     change();
