@@ -75,17 +75,20 @@ void RectControl::Constructor() {
 }
 
 void RectControl::InitialParent(const String& value) {
-  initial_parent_ = value;
   const std::string_view text = value.View();
-  if (text.empty()) return Parent(nullptr);
+  if (text.empty()) {
+    initial_parent_ = value;
+    return Parent(nullptr);
+  }
   const auto dollar = text.find('$');
   std::int64_t index = 0;
-  const bool named =
-      dollar != text.npos &&
-      std::from_chars(text.data() + dollar + 1, text.data() + text.size(), index).ec == std::errc();
+  const char* const end = text.data() + text.size();
+  const char* const digits = dollar == text.npos ? end : text.data() + dollar + 1;
+  const bool named = digits != end && std::from_chars(digits, end, index).ptr == end;
   const Ref<Control> parent =
       named ? Window()->_ControlByNameIndex(text.substr(0, dollar), index) : nullptr;
   if (!parent) RuntimeRaiseException(InvalidParentException(value));
+  initial_parent_ = value;
   Parent(RuntimeCheckCast<RectControl>(parent));
 }
 

@@ -14,7 +14,8 @@ namespace framework {
 class Window;
 
 /// Anything placed in a window. It belongs to one window all its life and keeps the handlers of its
-/// events. It raises no event of its own accord: only what the user does, and the window's opening.
+/// events. Writing a property raises none: what does is the user's input, the window's opening,
+/// and a list that loses its chosen row.
 class Control : public Component {
  public:
   /// The Index of a control outside every control set.

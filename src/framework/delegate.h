@@ -48,7 +48,9 @@ struct HandlerTraits<void (T::*)(const Ref<C>&)> {
 /// A delegate on a method of target that takes the control which raised the event. The sender is
 /// cast to the class that the method names, which raises IllegalCastException if it is none.
 template <auto kHandler>
-Ref<Delegate> RuntimeCreateDelegate(const Ref<Object>& target, std::string_view signature) {
+Ref<Delegate> RuntimeCreateDelegate(
+    const Ref<typename detail::HandlerTraits<std::remove_cv_t<decltype(kHandler)>>::Target>& target,
+    std::string_view signature) {
   using Traits = detail::HandlerTraits<std::remove_cv_t<decltype(kHandler)>>;
   return RuntimeNewObject<Delegate>(
       [](Object& object, const Ref<Control>& sender) {

@@ -9,8 +9,7 @@
 namespace framework {
 
 /// An entry of a menu, or a menu's title with the entries below it. In Text an ampersand marks the
-/// accelerator letter, and a lone hyphen is a separator. Every operation passes the user-interface
-/// guard.
+/// accelerator letter, and a lone hyphen is a separator.
 class MenuItem : public Mirrored {
  public:
   virtual void Constructor();

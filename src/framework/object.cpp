@@ -2,10 +2,13 @@
 
 namespace framework {
 
-Object::~Object() {
+Object::~Object() { ForgetWeakReferences(); }
+
+void Object::ForgetWeakReferences() noexcept {
   if (link_ == nullptr) return;
   link_->object = nullptr;
   if (link_->holders == 0) delete link_;
+  link_ = nullptr;
 }
 
 Object::WeakLink& Object::Link() {

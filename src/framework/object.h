@@ -29,9 +29,13 @@ class Object {
 
   void Retain() noexcept { ++references_; }
   void Release() noexcept {
-    if (--references_ == 0) delete this;
+    if (--references_ > 0) return;
+    ForgetWeakReferences();
+    delete this;
   }
   WeakLink& Link();
+  /// Comes before any destructor: what runs there must not get hold of the object again.
+  void ForgetWeakReferences() noexcept;
 
   std::size_t references_ = 0;
   WeakLink* link_ = nullptr;

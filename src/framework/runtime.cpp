@@ -49,7 +49,8 @@ String Describe(const std::exception_ptr& failure) {
   } catch (const std::exception& exception) {
     const std::unique_ptr<char, decltype(&std::free)> name(
         abi::__cxa_demangle(typeid(exception).name(), nullptr, nullptr, nullptr), &std::free);
-    return String(std::string(name.get()) + ": " + exception.what());
+    const char* const class_name = name != nullptr ? name.get() : typeid(exception).name();
+    return String(std::string(class_name) + ": " + exception.what());
   } catch (...) {
     return "A failure of an unknown class.";
   }
@@ -110,7 +111,7 @@ void _RunFrameworkInitialization(void (*function)()) {
 }
 
 void _RuntimeRun() {
-  if (State().escaped == nullptr) Toolkit::Current().Run();
+  Toolkit::Current().Run();
   if (State().escaped != nullptr) {
     RuntimeReraiseException(std::exchange(State().escaped, nullptr));
   }

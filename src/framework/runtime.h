@@ -59,7 +59,8 @@ void _UnhandledException(const std::exception_ptr& exception);
 
 /// Lets go of all windows, then undoes the initializers, in the opposite order.
 void RuntimePerformFinalizers();
-/// Tears the runtime down. The exit status: 0 after a normal end, 1 after a last resort.
+/// Tears the runtime down. The exit status: 0 after a normal end, 1 after a failure that left the
+/// outermost block.
 int RuntimeExit();
 
 }  // namespace framework

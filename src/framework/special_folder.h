@@ -17,10 +17,10 @@ class BundlePlatform {
 namespace SpecialFolder {
 
 /// The application's resources folder. On a platform with application bundles it is the bundle's,
-/// whether it exists or not. On any other it is the folder "NAME Resources" beside the executable
-/// file, NAME being that file's whole name, or else "Resources"; nil when neither exists or no
-/// application object is registered. A folder that exists is never looked up twice, and one that
-/// has vanished is looked up afresh.
+/// whether it exists or not, and nil when the bundle names none. On any other it is the folder
+/// "NAME Resources" beside the executable file, NAME being that file's whole name, or else
+/// "Resources"; nil when neither exists or no application object is registered. A folder that
+/// exists is never looked up twice, and one that has vanished is looked up afresh.
 Ref<FolderItem> Resources();
 
 /// Says where bundles come from; nullptr for a platform that has none, as it is at first. Whatever

@@ -65,6 +65,7 @@ bool TextInputStream::EOF_() { return !Ready() && pending_error_ == 0; }
 void TextInputStream::Close() {
   if (file_ >= 0) close(file_);
   file_ = -1;
+  position_ = buffer_.size();
 }
 
 bool TextInputStream::Ready() {

@@ -38,7 +38,8 @@ class Toolkit {
   virtual void ShowMessage(const String& text) = 0;
   /// Reports a failure that no one took: its class, message and error number as one text.
   virtual void ReportFailure(const String& text) = 0;
-  /// Runs work once from the event loop, not before delay_ms milliseconds have gone.
+  /// Runs work once from the event loop, not before delay_ms milliseconds have gone. Before
+  /// Initialise there is nothing in the system that could ask for it.
   virtual void CallLater(std::int64_t delay_ms, std::function<void()> work) = 0;
 };
 

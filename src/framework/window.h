@@ -16,8 +16,9 @@ class WindowPeer {
   virtual void Added(const Ref<RectControl>& control) = 0;
 };
 
-/// A window with its controls. It is made whole in memory, opened, and only then shown; from its
-/// making to its closing the framework keeps it alive. Nothing in it moves when it is resized.
+/// A window with its controls. It is made whole in memory, opened, and only then shown; the
+/// framework keeps it alive from its making to the end of the run. Nothing in it moves when it is
+/// resized.
 class Window : public Component {
  public:
   const ClassInfo& _Class() const override { return kClass; }

@@ -11,15 +11,21 @@ Ref<MainMenuBarClass>& Singleton() {
   return singleton;
 }
 
-/// An entry, ready to be placed. shortcut is empty for none.
+/// An entry, ready to be placed.
 template <class Item = MenuItem>
-Ref<MenuItem> Build(const char* name, const char* text, const char* shortcut) {
+Ref<Item> Build(const char* name, const char* text) {
   auto item = RuntimeNewObject<Item>();
   item->Constructor();
   item->Name(name);
   item->AutoEnable(true);
   item->Text(text);
   item->Visible(true);
+  return item;
+}
+
+template <class Item = MenuItem>
+Ref<Item> Build(const char* name, const char* text, const char* shortcut) {
+  auto item = Build<Item>(name, text);
   item->KeyboardShortcut(shortcut);
   return item;
 }
@@ -39,12 +45,12 @@ void MainMenuBarClass::FileMenu() {
 void MainMenuBarClass::EditMenu() {
   Append(Build("EditMenu", "&Edit", ""));
   Child("EditMenu")->Append(Build("EditUndo", "&Undo", "Cmd+Z"));
-  Child("EditMenu")->Append(Build("EditSeparator1", "-", ""));
+  Child("EditMenu")->Append(Build("EditSeparator1", "-"));
   Child("EditMenu")->Append(Build("EditCut", "Cu&t", "Cmd+X"));
   Child("EditMenu")->Append(Build("EditCopy", "&Copy", "Cmd+C"));
   Child("EditMenu")->Append(Build("EditPaste", "&Paste", "Cmd+V"));
   Child("EditMenu")->Append(Build("EditClear", "&Delete", ""));
-  Child("EditMenu")->Append(Build("EditSeparator2", "-", ""));
+  Child("EditMenu")->Append(Build("EditSeparator2", "-"));
   Child("EditMenu")->Append(Build("EditSelectAll", "Select &All", "Cmd+A"));
 }
 

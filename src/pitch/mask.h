@@ -18,8 +18,8 @@ constexpr std::int64_t Append(std::int64_t mask, bool present) {
 
 /// The same notes measured from the note that stands at position count: count single steps, each a
 /// rotation left by one bit within twelve. A count of 0 or below gives the value as it came.
-/// Outside the range of a mask the first step cuts off every bit above bit 11, and a negative value
-/// stays negative or becomes zero.
+/// Outside the range of a mask the first step cuts off every bit above bit 11; of a negative value
+/// it takes the remainder with its sign, and adds the top bit to that.
 constexpr std::int64_t Rotate12(std::int64_t value, std::int64_t count) {
   for (std::int64_t k = 1; k <= count; ++k) {
     const std::int64_t top = value & 0x800;

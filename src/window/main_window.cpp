@@ -40,7 +40,7 @@ void wdwMainClass::pmRoot_Change(const Ref<PopupMenu>&) {
 }
 
 void wdwMainClass::cbScale_Action(const Ref<CheckBox>& sender) {
-  // Which member it was plays no part: the pass reads all twelve.
+  // Which member it was plays no part, here and at the opening.
   RuntimeCheckCast<cbScaleClass>(sender)->Index();
   CompareScales();
   NormaliseCBs();
@@ -51,11 +51,13 @@ void wdwMainClass::cbOther_Action(const Ref<CheckBox>&) { CompareScales(); }
 void wdwMainClass::cbRinL_Action(const Ref<CheckBox>&) { CompareScales(); }
 
 void wdwMainClass::cbScale_Open(const Ref<CheckBox>& sender) {
-  RuntimeCheckCast<cbScaleClass>(sender)->Parent(nullptr);
+  RuntimeCheckCast<cbScaleClass>(sender)->Index();
+  sender->Parent(nullptr);
 }
 
 void wdwMainClass::lbStar_Open(const Ref<Label>& sender) {
-  RuntimeCheckCast<lbStarClass>(sender)->Parent(nullptr);
+  RuntimeCheckCast<lbStarClass>(sender)->Index();
+  sender->Parent(nullptr);
 }
 
 void wdwMainClass::lbContaining_Change(const Ref<Listbox>& sender) {

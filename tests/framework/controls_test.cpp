@@ -155,7 +155,7 @@ TEST_F(Controls, InitialParentMustBeThere) {
   EXPECT_EQ(box_->Parent(), label_);
   box_->InitialParent("");
   EXPECT_FALSE(box_->Parent());
-  for (const char* const wrong : {"label$4", "label", "label$", "$3"}) {
+  for (const char* const wrong : {"label$4", "label", "label$", "$3", "label$3x"}) {
     EXPECT_THROW(box_->InitialParent(wrong), InvalidParentException) << wrong;
   }
 }

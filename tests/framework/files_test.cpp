@@ -62,9 +62,27 @@ TEST(TextInputStream, CarriesTheSystemsErrors) {
     FAIL();
   } catch (const IOException& failure) {
     EXPECT_EQ(failure.ErrorNumber(), EISDIR);
+    EXPECT_EQ(std::string(failure.Message()), "");
     EXPECT_EQ(stream->LastErrorCode(), EISDIR);
   }
   EXPECT_THROW(TextInputStream::Open(nullptr), NilObjectException);
+}
+
+TEST(TextInputStream, LetsGoOfItsFile) {
+  const Folder folder;
+  folder.Write("file", "a\nb\nc");
+  const auto open_files = [] {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+  };
+  const auto before = open_files();
+  auto stream = TextInputStream::Open(GetFolderItem(folder.Path("file")));
+  stream->ReadLine();
+  stream->Close();
+  EXPECT_TRUE(stream->EOF_());
+  EXPECT_EQ(std::string(stream->ReadLine()), "");
+  stream = TextInputStream::Open(GetFolderItem(folder.Path("file")));
+  stream = nullptr;
+  EXPECT_EQ(open_files(), before);
 }
 
 TEST(TextInputStream, DoesNotHangOnAPipe) {

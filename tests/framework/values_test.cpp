@@ -87,9 +87,21 @@ TEST(Ref, KeepsItsObjectAndRaisesWhenNil) {
   EXPECT_EQ(gone, 1);
   try {
     *Ref<Thing>();
+    FAIL();
   } catch (const NilObjectException& failure) {
     EXPECT_THAT(std::string(failure.Message()), HasSubstr("Thing"));
   }
+}
+
+/// Asks for itself while it goes.
+struct Clinging : Object {
+  ~Clinging() override { EXPECT_FALSE(self->Value()); }
+  Ref<WeakRef> self = RuntimeNewObject<WeakRef>(this);
+};
+
+TEST(WeakRef, GivesNothingBackWhileItsObjectGoes) {
+  const Ref<WeakRef> weak = RuntimeNewObject<Clinging>()->self;
+  EXPECT_FALSE(weak->Value());
 }
 
 TEST(WeakRef, EmptiesItselfAndKeepsNothingAlive) {

@@ -79,6 +79,16 @@ TEST_F(StartUp, FailureThatNoEventTookReachesTheOutermostBlock) {
   EXPECT_FALSE(getAppObject()) << "the finalizers ran all the same";
 }
 
+TEST_F(StartUp, FailureBeforeTheRunReachesTheOutermostBlockToo) {
+  toolkit_.Observe([](const std::string& line) {
+    if (line == "initialise") RuntimeRaiseException(PlatformNotSupportedException("no screen"));
+  });
+  EXPECT_EQ(shell::main(), 1);
+  EXPECT_THAT(toolkit_.Lines(),
+              ElementsAre("initialise", StartsWith("failure PlatformNotSupportedException")));
+  EXPECT_FALSE(getAppObject());
+}
+
 TEST_F(StartUp, FailureInAHandlerIsReportedAndTheProgramGoesOn) {
   toolkit_.Post([] {
     window::wdwMain()->Labels().Remove(0);

@@ -1,3 +1,5 @@
+#include <thread>
+
 #include "support/behaviour.h"
 #include "toolkit/memory/memory_toolkit.h"
 
@@ -60,6 +62,62 @@ TEST_F(Handlers, OptionsAndRootLeaveStarsThatNoRowShows) {
     input();
     EXPECT_THAT(Stars(), ElementsAre(3));
   }
+}
+
+TEST_F(Handlers, EveryOperationOnTheUserInterfaceIsRefusedOffTheMainThread) {
+  const auto& window = *window_;
+  const Listbox& list = *window.lbContaining();
+  const auto box = window.cbScale(0);
+  const auto star = window.lbStar(0);
+  const auto popup = window.pmRoot();
+  const auto item = window.FileQuit();
+  const auto bar = window.MenuBar();
+  const auto app = getAppObject();
+  const std::function<void()> operations[] = {
+      [&] { window.lbExact()->AddRow({"a"}); },
+      [&] { list.Cell(0, 0); },
+      [&] { window.lbExact()->Cell(0, 0, "a"); },
+      [&] { window.lbExact()->DeleteAllRows(); },
+      [&] { list.ListIndex(); },
+      [&] { list.LastIndex(); },
+      [&] { box->Value(); },
+      [&] { box->Caption(); },
+      [&] { box->Caption("a"); },
+      [&] { window.lbValue()->Text("a"); },
+      [&] { popup->ListIndex(); },
+      [&] { star->Visible(true); },
+      [&] { star->Parent(nullptr); },
+      [&] { star->RectControl::Constructor(); },
+      [&] { star->Index(1); },
+      [&] { star->Window(); },
+      [&] { window_->Constructor(); },
+      [&] { window.MenuBar(); },
+      [&] { window_->MenuBar(nullptr); },
+      [&] { window_->_AddControl("a", box); },
+      [&] { item->Constructor(); },
+      [&] { item->Name("a"); },
+      [&] { item->Text("a"); },
+      [&] { item->KeyboardShortcut("a"); },
+      [&] { item->AutoEnable(true); },
+      [&] { item->Visible(true); },
+      [&] { bar->Append(item); },
+      [&] { bar->Child("a"); },
+      [&] { bar->_Lookup("a"); },
+      [&] { app->MenuBar(bar); },
+  };
+  std::size_t refused = 0;
+  std::thread([&] {
+    for (const auto& operation : operations) {
+      try {
+        operation();
+      } catch (const ThreadAccessingUIException&) {
+        ++refused;
+        continue;
+      }
+      ADD_FAILURE() << "number " << &operation - operations << " was let through";
+    }
+  }).join();
+  EXPECT_EQ(refused, std::size(operations));
 }
 
 TEST_F(Handlers, MenuEntriesAreMembersOfTheWindow) {

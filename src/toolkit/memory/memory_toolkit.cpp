@@ -88,6 +88,7 @@ void MemoryToolkit::Run() {
     queue_.pop_front();
     work();
   }
+  quit_ = false;
 }
 
 void MemoryToolkit::Quit() {

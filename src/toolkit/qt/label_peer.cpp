@@ -11,15 +11,16 @@ using namespace framework;
 
 namespace {
 
-/// A label whose text may be of a larger size than its frame: then it is the ink that is centred,
-/// so that a glyph which sits high in its line, such as an asterisk, shows whole.
+/// A label whose text may be of a larger size than its frame: then it is the ink of a centred text
+/// that is centred, so that a glyph which sits high in its line, such as an asterisk, shows whole.
 class InkLabel final : public QLabel {
  public:
   using QLabel::QLabel;
 
  protected:
   void paintEvent(QPaintEvent* event) override {
-    if (fontMetrics().height() <= height()) return QLabel::paintEvent(event);
+    const bool centred = (alignment() & Qt::AlignHCenter) != 0;
+    if (!centred || fontMetrics().height() <= height()) return QLabel::paintEvent(event);
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
     QPainterPath outline;

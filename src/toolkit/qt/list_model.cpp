@@ -26,7 +26,9 @@ int ListModel::columnCount(const QModelIndex& parent) const {
 QVariant ListModel::data(const QModelIndex& index, int role) const {
   // Between a change and its taking over, the list may be shorter than what the view knows.
   if (role != Qt::DisplayRole || index.row() > list_->LastIndex()) return {};
-  return Shown(list_->Cell(index.row(), index.column()));
+  // No column shows more; laying out a megabyte would take seconds at each painting.
+  constexpr std::size_t kMost = 1000;
+  return Shown(list_->Cell(index.row(), index.column()).View().substr(0, kMost));
 }
 
 }  // namespace toolkit::qt

@@ -146,10 +146,14 @@ void ListView::SetRowHeight() {
 }
 
 void ListView::ShareWidth() {
+  // The scroll bar's place is kept free also while there is none: columns do not jump when it
+  // comes, and those of two lists of one width stand in line.
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+  const int room = width() - 2 * frameWidth() - bar;
   for (int column = 0; column < static_cast<int>(shares_.size()); ++column) {
     const int share = shares_[static_cast<std::size_t>(column)];
     setColumnHidden(column, share == 0);
-    if (share > 0) setColumnWidth(column, viewport()->width() * share / 1000);
+    if (share > 0) setColumnWidth(column, room * share / 1000);
   }
 }
 

@@ -11,7 +11,8 @@ class ListView final : public QTableView {
  public:
   explicit ListView(QWidget* parent);
 
-  /// Widths in parts of 1000 of the room for the rows; a column without a width is not shown.
+  /// Widths in parts of 1000 of the list's, less its frame and its scroll bar; a column without a
+  /// width is not shown.
   void SetColumnShares(std::vector<int> shares);
 
  protected:

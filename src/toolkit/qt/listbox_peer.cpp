@@ -19,10 +19,7 @@ std::vector<int> Shares(const Listbox& list) {
   const auto widths = Split(list.ColumnWidths(), ",");
   const auto last = static_cast<std::int64_t>(shares.size()) - 1;
   for (std::int64_t i = 0; i <= std::min(last, widths.LastIndex()); ++i) {
-    const double width = Val(widths[i]);
-    const bool percent = widths[i].View().ends_with('%');
-    shares[static_cast<std::size_t>(i)] =
-        static_cast<int>(percent ? width * 10 : width * 1000 / static_cast<double>(list.Width()));
+    shares[static_cast<std::size_t>(i)] = static_cast<int>(Val(widths[i]) * 10);
   }
   while (!shares.empty() && shares.back() == 0) shares.pop_back();
   return shares;

@@ -39,6 +39,8 @@ void BuildMenuBar(MenuBar& bar, QMenuBar& native) {
   for (std::int64_t i = 0; i <= titles.LastIndex(); ++i) {
     QMenu* const menu = native.addMenu(Shown(titles[i]->Text()));
     menu->setObjectName(Shown(titles[i]->Name()));
+    menu->menuAction()->setEnabled(titles[i]->Enabled());
+    menu->menuAction()->setVisible(titles[i]->Visible());
     const auto entries = titles[i]->_Children();
     for (std::int64_t k = 0; k <= entries.LastIndex(); ++k) AddEntry(entries[k], *menu);
   }

@@ -89,6 +89,7 @@ void NativeWindow::OrderTabs() {
   std::ranges::stable_sort(
       order, {}, [](const QWidget* widget) { return std::pair(widget->x(), widget->y()); });
   for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
+  if (!order.empty() && focusWidget() == nullptr) order.front()->setFocus();
 }
 
 }  // namespace toolkit::qt

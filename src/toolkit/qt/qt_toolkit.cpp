@@ -20,11 +20,12 @@ using namespace framework;
 
 namespace {
 
-/// Qt ends the process with an abort, and so a core file, when no display answers. Its last message
-/// before that is the only one that no way of having no display goes around.
+/// Qt ends the process with an abort, and so a core file, when no display answers or no platform
+/// plug-in for it is there. Its last message before that is the only one that no such way goes
+/// around.
 void EndWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
   if (type != QtFatalMsg) return;
-  std::cerr << "No window can be opened: there is no X11 or Wayland display that answers.\n";
+  std::cerr << "No window can be opened: no X11 or Wayland display answers to Qt's plug-ins.\n";
   std::_Exit(EXIT_FAILURE);
 }
 
@@ -59,8 +60,7 @@ void QtToolkit::Initialise() {
   QApplication::setLayoutDirection(Qt::LeftToRight);
   QApplication::setDesktopFileName(QString::fromStdString(desktop_entry_));
   QApplication::setWindowIcon(Icon());
-  // A message box that closes before there is a window does not end the program; the window says
-  // itself when it does.
+  // The window says itself when the program ends.
   QApplication::setQuitOnLastWindowClosed(false);
   new Appearance(application_.get());
 }

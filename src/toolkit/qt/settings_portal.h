@@ -26,10 +26,8 @@ class SettingsPortal final : public QObject {
   /// One of the two has changed.
   void Changed();
 
- private slots:
-  void SettingChanged(const QDBusMessage& message);
-
  private:
+  Q_SLOT void SettingChanged(const QDBusMessage& message);
   void Ask(const QString& key);
   void Take(const QString& key, const QVariant& value);
 
