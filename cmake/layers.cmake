@@ -16,6 +16,12 @@ if(PITCHSIEVE_SANITIZE)
   target_link_options(pitchsieve_options INTERFACE ${sanitizers})
 endif()
 
+if(PITCHSIEVE_FUZZ)
+  # What the fuzzer watches: which way each branch of our own code went.
+  target_compile_options(pitchsieve_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(pitchsieve_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # add_layer(FOLDER sources... LINKS targets...)
 # The library of src/FOLDER. Its headers are included as "FOLDER/name.h", by itself and by what links
 # it: each library has an include directory of its own in which only its folder stands.

@@ -41,7 +41,9 @@ String Str(std::int64_t value) { return Digits(value, 10); }
 double Val(const String& text) {
   std::string_view digits = text.View();
   digits.remove_prefix(std::min(digits.find_first_not_of(" \t"), digits.size()));
-  if (digits.find_first_of("-.0123456789") != 0) return 0;  // from_chars also reads "nan" and "inf"
+  const std::size_t sign = digits.starts_with('-') ? 1 : 0;
+  // from_chars also reads "nan" and "inf".
+  if (digits.find_first_of(".0123456789", sign) != sign) return 0;
   double value = 0;
   std::from_chars(digits.data(), digits.data() + digits.size(), value);
   return value;

@@ -17,7 +17,8 @@ Array<String> Split(const String& text, const String& delimiter);
 /// The value in plain decimal.
 String Str(std::int64_t value);
 
-/// The number at the start of text, behind any blanks; 0 when there is none.
+/// The number at the start of text, behind any blanks; 0 when there is none, or one that is too
+/// large for a double.
 double Val(const String& text);
 
 /// The value in base 2, most significant digit first, without leading zeros; "0" for zero. A

@@ -49,7 +49,9 @@ TEST(Numbers, GoIntoTextAndBack) {
   EXPECT_EQ(std::string(Bin(0)), "0");
   EXPECT_EQ(std::string(Bin(2192)), "100010010000");
   EXPECT_EQ(Val("  2773 notes"), 2773);
-  for (const char* const no_number : {"", "notes", "nan", "inf", "-"}) EXPECT_EQ(Val(no_number), 0);
+  for (const char* const no_number : {"", "notes", "nan", "inf", "-", "-inf", "1e999"}) {
+    EXPECT_EQ(Val(no_number), 0) << no_number;
+  }
 }
 
 TEST(Array, RaisesOutsideItsElementsAndWhenNil) {
