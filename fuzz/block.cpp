@@ -76,9 +76,9 @@ Answer Plain(std::string_view bytes, std::string_view class_name, std::span<cons
       if (Small(candidate.name) == Small(key)) found = &candidate;
     }
     if (found == nullptr) return refuse("no such property");
-    std::size_t size = found->type == Type::i8                               ? 8
+    std::size_t size = found->type == Type::i8                             ? 8
                        : found->type == Type::b || found->type == Type::u1 ? 1
-                                                                             : 4;
+                                                                           : 4;
     if (size > bytes.size() - at) return refuse("the value runs past the end");
     if (found->type == Type::s) {
       const std::uint64_t length = LowByteFirst(bytes.substr(at, 4));
@@ -170,14 +170,13 @@ void Try(const std::uint8_t* data, std::size_t size, std::span<const Key> kind) 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
   static Program program;
-  constexpr auto kTries =
-      std::to_array<void (*)(const std::uint8_t*, std::size_t)>({
-          [](auto d, auto s) { Try<Window>(d, s, window::encoder::kWindow); },
-          [](auto d, auto s) { Try<Listbox>(d, s, window::encoder::kListbox); },
-          [](auto d, auto s) { Try<CheckBox>(d, s, window::encoder::kCheckBox); },
-          [](auto d, auto s) { Try<Label>(d, s, window::encoder::kLabel); },
-          [](auto d, auto s) { Try<PopupMenu>(d, s, window::encoder::kPopupMenu); },
-      });
+  constexpr auto kTries = std::to_array<void (*)(const std::uint8_t*, std::size_t)>({
+      [](auto d, auto s) { Try<Window>(d, s, window::encoder::kWindow); },
+      [](auto d, auto s) { Try<Listbox>(d, s, window::encoder::kListbox); },
+      [](auto d, auto s) { Try<CheckBox>(d, s, window::encoder::kCheckBox); },
+      [](auto d, auto s) { Try<Label>(d, s, window::encoder::kLabel); },
+      [](auto d, auto s) { Try<PopupMenu>(d, s, window::encoder::kPopupMenu); },
+  });
   kTries[data[0] % kTries.size()](data, size);
   return 0;
 }

@@ -43,7 +43,8 @@ struct Program {
 
 bool SaysTrue(const std::string& field) {
   std::string folded;
-  for (const char c : field) folded += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  for (const char c : field)
+    folded += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
   return folded == "true";
 }
 
