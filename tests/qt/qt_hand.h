@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -37,6 +39,7 @@ Widget& Find(const char* name) {
 class QtHand {
  public:
   using Toolkit = QtTestToolkit;
+  static constexpr bool kShowsFailures = true;  ///< in a box that waits for the user
 
   QtHand(Toolkit&, window::wdwMainClass&) {
     Native().activateWindow();
@@ -63,8 +66,40 @@ class QtHand {
     QTest::keyClick(&Find("lbContaining"), Qt::Key_Escape);
     QApplication::processEvents();
   }
+  /// The desktop turns dark, or light again.
+  void ChangeAppearance() {
+    dark_ = !dark_;
+    QApplication::setPalette(dark_ ? QPalette(Qt::black) : QPalette());
+    QApplication::processEvents();
+  }
+
+  /// The screen shows what the controls hold.
+  void ExpectMirrored(const window::wdwMainClass& window) const {
+    for (int i = 0; i < 12; ++i) {
+      const std::string number = std::to_string(i);
+      const auto& box = Find<QCheckBox>(("cbScale" + number).c_str());
+      EXPECT_EQ(box.isChecked(), window.cbScale(i)->Value());
+      EXPECT_EQ(box.text().toStdString(), std::string(window.cbScale(i)->Caption()));
+      EXPECT_EQ(Find(("lbStar" + number).c_str()).isVisible(), window.lbStar(i)->Visible());
+    }
+    EXPECT_EQ(Find<QComboBox>("pmRoot").currentIndex(), window.pmRoot()->ListIndex());
+    ExpectMirrored(Find<QTableView>("lbExact"), *window.lbExact());
+    ExpectMirrored(Find<QTableView>("lbContaining"), *window.lbContaining());
+  }
 
  private:
+  static void ExpectMirrored(const QTableView& view, const framework::Listbox& list) {
+    const QAbstractItemModel& model = *view.model();
+    ASSERT_EQ(model.rowCount(), list.LastIndex() + 1);
+    for (int row = 0; row < model.rowCount(); ++row) {
+      for (int column = 0; column < 3; ++column) {
+        EXPECT_EQ(model.index(row, column).data().toString().toStdString(),
+                  std::string(list.Cell(row, column)));
+      }
+    }
+    const QModelIndexList chosen = view.selectionModel()->selectedRows();
+    EXPECT_EQ(chosen.isEmpty() ? -1 : chosen.front().row(), list.ListIndex());
+  }
   static void Press(QCheckBox& box, bool by_mouse) {
     if (by_mouse) {
       QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(8, box.height() / 2));
@@ -74,10 +109,13 @@ class QtHand {
     QApplication::processEvents();
   }
   static void Click(QTableView& list, int row) {
+    list.scrollTo(list.model()->index(row, 1));
     const QRect cell = list.visualRect(list.model()->index(row, 1));
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, cell.center());
     QApplication::processEvents();
   }
+
+  bool dark_ = false;
 };
 
 }  // namespace support

@@ -7,6 +7,7 @@
 
 #include "qt/qt_hand.h"
 #include "support/behaviour.h"
+#include "support/monkey.h"
 
 namespace {
 
@@ -15,6 +16,8 @@ using namespace support;
 using testing::ElementsAre;
 
 INSTANTIATE_TYPED_TEST_SUITE_P(OnQt, Behaviour, QtHand);
+
+TEST(RandomClicksOnScreen, AgreeWithTheOracleAndTheScreenFollows) { Monkey<QtHand>::Play(200); }
 
 class Screen : public Behaviour<QtHand> {
  protected:

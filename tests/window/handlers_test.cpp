@@ -1,31 +1,13 @@
 #include <thread>
 
 #include "support/behaviour.h"
-#include "toolkit/memory/memory_toolkit.h"
+#include "support/memory_hand.h"
 
 namespace {
 
 using namespace framework;
 using namespace support;
 using testing::ElementsAre;
-
-/// The user's hand on a window that has no screen.
-class MemoryHand {
- public:
-  using Toolkit = toolkit::memory::MemoryToolkit;
-
-  MemoryHand(Toolkit&, window::wdwMainClass& window) : window_(window) {}
-  void Tick(int position) { window_.cbScale(position)->Toggle(); }
-  void TickOther() { window_.cbOther()->Toggle(); }
-  void TickInListOnly() { window_.cbRinL()->Toggle(); }
-  void ChooseRoot(int row) { window_.pmRoot()->Choose(row); }
-  void ChooseRow(int row) { window_.lbContaining()->Select(row); }
-  void ChooseExactRow(int row) { window_.lbExact()->Select(row); }
-  void TakeChoiceBack() { window_.lbContaining()->Select(-1); }
-
- private:
-  window::wdwMainClass& window_;
-};
 
 INSTANTIATE_TYPED_TEST_SUITE_P(InMemory, Behaviour, MemoryHand);
 
