@@ -87,7 +87,9 @@ TEST_F(OpenedWindow, BlocksAreOfTheirKindsLengthsAndSetWhatTheyName) {
   Open();
   std::size_t shortest = 10000;
   std::size_t longest = 0;
+  std::uint64_t digest = 0;
   const auto measure = [&](const Block& block) {
+    for (std::size_t i = 0; i <= block.length; ++i) digest = digest * 31 + block.bytes[i];
     shortest = std::min(shortest, block.length);
     longest = std::max(longest, block.length);
     EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block.bytes) % 16, 0U);
@@ -102,6 +104,8 @@ TEST_F(OpenedWindow, BlocksAreOfTheirKindsLengthsAndSetWhatTheyName) {
   }
   EXPECT_EQ(shortest, 338U);
   EXPECT_EQ(longest, 911U);
+  EXPECT_EQ(digest, 14347917955307236446U)
+      << "some measure or text of the layout is another: is that wanted?";
   EXPECT_EQ(window_->Width(), 615);
   EXPECT_EQ(window_->MinHeight(), 64);
   EXPECT_EQ(window_->cbScale(9)->Top(), 459);
