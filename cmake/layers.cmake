@@ -8,8 +8,22 @@ add_library(pitchsieve_options INTERFACE)
 target_compile_features(pitchsieve_options INTERFACE cxx_std_20)
 target_compile_options(pitchsieve_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
-  -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2 -Wimplicit-fallthrough
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wcast-qual -Wformat=2 -Wimplicit-fallthrough
+  -Wdouble-promotion -Wextra-semi -Wmissing-declarations -Wredundant-decls -Wundef
+  -Wzero-as-null-pointer-constant
+  $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-branches -Wduplicated-cond -Wlogical-op -Wsuggest-override>
+  $<$<CXX_COMPILER_ID:Clang>:-Wcomma -Wloop-analysis -Wunreachable-code-aggressive>
   $<$<BOOL:${PITCHSIEVE_STRICT}>:-Werror>)
+
+# A fault in memory ends the program before it can be put to use. tools/check_hardened.sh looks for
+# all of this in the built files.
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+include(CheckPIESupported)
+check_pie_supported()
+target_compile_options(pitchsieve_options INTERFACE -fstack-protector-strong
+  $<$<CONFIG:Release,RelWithDebInfo>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
+target_link_options(pitchsieve_options INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)
+
 if(PITCHSIEVE_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_compile_options(pitchsieve_options INTERFACE ${sanitizers})

@@ -81,6 +81,7 @@ inline std::vector<std::string> PlainLines(std::string_view bytes, bool fails) {
 
 extern "C" {
 ssize_t __real_read(int file, void* to, std::size_t size);
+ssize_t __wrap_read(int file, void* to, std::size_t size);
 ssize_t __wrap_read(int file, void* to, std::size_t size) {
   fuzz::ScriptedFile* const script = fuzz::ScriptedFile::current;
   return script == nullptr ? __real_read(file, to, size)

@@ -16,4 +16,11 @@ Object::WeakLink& Object::Link() {
   return *link_;
 }
 
+// Not in the class: where it is compiled into a caller, GCC warns of uses behind a delete that the
+// caller's own reference rules out.
+void Object::Go() noexcept {
+  ForgetWeakReferences();
+  delete this;
+}
+
 }  // namespace framework

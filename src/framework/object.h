@@ -29,12 +29,12 @@ class Object {
 
   void Retain() noexcept { ++references_; }
   void Release() noexcept {
-    if (--references_ > 0) return;
-    ForgetWeakReferences();
-    delete this;
+    if (--references_ == 0) Go();
   }
+  /// Empties the weak references before any destructor: what runs there must not get hold of the
+  /// object again.
+  void Go() noexcept;
   WeakLink& Link();
-  /// Comes before any destructor: what runs there must not get hold of the object again.
   void ForgetWeakReferences() noexcept;
 
   std::size_t references_ = 0;

@@ -46,7 +46,7 @@ class LoggingPeer final : public Peer {
   void Changed(Change what) override {
     std::string line(control_->Name());
     if (control_->Index() != Control::kNoIndex) {
-      line += "(" + std::to_string(control_->Index()) + ")";
+      line.append("(").append(std::to_string(control_->Index())).append(")");
     }
     toolkit_.Log(line.append(".").append(Spelt(what)));
   }
