@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QMessageBox>
 #include <QTimer>
+#include <csignal>
 #include <cstdlib>
 #include <iostream>
 #include <utility>
@@ -45,6 +46,13 @@ void ShowBox(QMessageBox::Icon icon, const std::string& title, const QString& te
 }
 
 }  // namespace
+
+QtToolkit::QtToolkit(std::string application_name, std::string desktop_entry)
+    : name_(std::move(application_name)), desktop_entry_(std::move(desktop_entry)) {
+  // A failure is also told to whoever reads the standard error; that one has gone is no reason to
+  // end.
+  std::signal(SIGPIPE, SIG_IGN);
+}
 
 void QtToolkit::Initialise() {
   const auto rounding = Application::_SupportsHiDPI()

@@ -15,8 +15,7 @@ namespace toolkit::qt {
 class QtToolkit : public framework::Toolkit {
  public:
   /// The name stands over message boxes; by its desktop entry the system knows the program.
-  QtToolkit(std::string application_name, std::string desktop_entry)
-      : name_(std::move(application_name)), desktop_entry_(std::move(desktop_entry)) {}
+  QtToolkit(std::string application_name, std::string desktop_entry);
 
   void Initialise() override;
   std::unique_ptr<framework::WindowPeer> Show(
