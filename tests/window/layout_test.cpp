@@ -128,12 +128,17 @@ TEST_F(OpenedWindow, TakesAMemberMadeAtRunTime) {
   window_->lbContaining()->Select(0);
   box->Toggle();
   EXPECT_THAT(Stars(), testing::IsEmpty()) << "its Action has the set's handler";
+  EXPECT_THAT(toolkit_.Lines(), testing::Contains("cbScale(0).Value")) << "it is on the screen";
 
   const auto star = window_->__New<window::lbStarClass>();
   star->Constructor();
   EXPECT_EQ(star->Index(), 0);
   EXPECT_EQ(star->Top(), 458) << "the place of the star that was made first";
   EXPECT_NE(window_->lbStar(0), star) << "the first one filed answers";
+  EXPECT_FALSE(star->Parent()) << "its Open has the set's handler";
+  star->Visible(true);
+  EXPECT_THAT(toolkit_.Lines(), testing::Contains("lbStar(0).Visible"));
+  EXPECT_THAT(window_->_Controls(), testing::SizeIs(37)) << "both are filed";
 }
 
 }  // namespace
