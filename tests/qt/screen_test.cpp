@@ -126,6 +126,7 @@ TEST_F(Screen, BoxesHaveOutlinesOnABlackGround) {
     QApplication::setPalette(
         QPalette(Qt::white, Qt::black, Qt::black, Qt::black, Qt::black, Qt::white, Qt::black));
   });
+  Find("cbOther").setFocus();
   for (const char* const name : {"cbScale0", "lbExact", "pmRoot"}) {
     const QImage picture = Find(name).grab().toImage();
     int light = 0;
