@@ -129,6 +129,7 @@ TEST_F(Notifications, RaiseTheEventOfAnApplicationForTheTwoNamesAlone) {
   _PostNotification(kColorsChanged);
   toolkit_.Run();
   app->_MacOSNotificationReceived("SomethingElse");
+  EXPECT_EQ(toolkit_.Lines().back(), "run") << "the one without a handler is silent";
   EXPECT_EQ(app->changes, 2);
 }
 
@@ -185,6 +186,11 @@ TEST_F(Notifications, AreDoneWithoutWhereTheSystemHasNone) {
   asked.clear();
   const auto b = Make("b");
   EXPECT_EQ(asked.back(), "allocate") << "the next one asks again";
+  ObjectRuntime::_Set(nullptr);
+  const auto c = Make("c");
+  _PostNotification(kThemeChanged);
+  toolkit_.Run();
+  EXPECT_THAT(heard, ElementsAre("c " + kTheme)) << "the first two were not added";
 }
 
 TEST_F(Notifications, GoOnBehindARefusedMethodWithoutAskingAgain) {

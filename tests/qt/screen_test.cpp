@@ -234,11 +234,20 @@ TEST_F(Screen, BytesThatAreNoTextShowAsSuch) {
   EXPECT_EQ(model->index(0, 1).data().toString(), QString::fromUtf8("&S\uFFFD"));
 }
 
-class Watcher final : public _MacOSDistributedNotifications::iNotify {
+/// An application that has a handler for the event, and notes what led to it.
+class Watcher final : public Application {
  public:
-  Watcher() { Register(*this); }
-  void _MacOSNotificationReceived(const String& name) override { heard.push_back(Text(name)); }
+  void _MacOSNotificationReceived(const String& name) override {
+    name_ = Text(name);
+    Application::_MacOSNotificationReceived(name);
+  }
   std::vector<std::string> heard;
+
+ protected:
+  void Event_AppearanceChanged() override { heard.push_back(name_); }
+
+ private:
+  std::string name_;
 };
 
 TEST_F(Screen, ChangeOfThePaletteIsToldOnceAndLeavesTheStateAlone) {
@@ -270,6 +279,7 @@ TEST_F(Screen, ChangeOfThePaletteIsToldOnceAndLeavesTheStateAlone) {
   EXPECT_EQ(window_->lbContaining()->ListIndex(), 1);
   EXPECT_TRUE(Find<QTableView>("lbContaining").selectionModel()->isRowSelected(1, {}));
   EXPECT_EQ(Stars().size(), 7U);
+  EXPECT_TRUE(Find<QCheckBox>("cbScale0").isChecked());
 }
 
 TEST_F(Screen, QuitEndsTheRunAndEditHasNothingToDo) {

@@ -37,9 +37,15 @@ until_there 200 '#CC3399' $chosen
 until_there 8 "$green" 15 20 15 188
 tell nonsense
 until_there 2000 "$light" $ground
+until_there 200 '#308CC6' $chosen
 until_there 8 "$green" 15 20 15 188
 xdotool key ctrl+q
 ends_well "following the scheme"
+
+start
+until_there 2000 "$light" $ground
+xdotool key ctrl+q
+ends_well "answers that make no sense"
 
 tell color-scheme 1
 tell mute

@@ -73,6 +73,7 @@ void Appearance::TellOfChange() {
   telling_ = false;
   const QPalette now = QApplication::palette();
   if (now == told_) return;
+  // A change of the scheme changes all colours; what else came with it is no news of its own.
   const bool theme = IsDark(now) != IsDark(told_);
   told_ = now;
   framework::_RunEvent([theme] {

@@ -8,8 +8,9 @@
 namespace toolkit::qt {
 
 /// Keeps the program in the desktop's colours while it runs, and tells the notification centre of
-/// each change, once. Where Qt follows the desktop by itself it is left to do so; where it does
-/// not, the desktop's settings portal says what to do.
+/// each change of the palette, once: the desktop's scheme as it is found at the start is one, where
+/// Qt had begun with another. The settings portal's word is followed where Qt's own palette does
+/// not have it already; a palette of Qt's that is dark by itself is left as it is.
 class Appearance final : public QObject {
  public:
   /// There must be an application, which is also the parent.

@@ -9,8 +9,8 @@ namespace toolkit::qt {
 
 /// The desktop's own settings of appearance, from the settings portal on the session bus. It asks
 /// without waiting, and hears of each change. Without a bus or a portal, and as long as there is no
-/// answer, it holds what no desktop prefers anything would say; an answer that makes no sense
-/// counts as none.
+/// answer, it holds what no desktop prefers anything would say; a value that makes no sense
+/// counts as no preference.
 class SettingsPortal final : public QObject {
   Q_OBJECT
 
