@@ -1,5 +1,6 @@
 #include "check/check_library.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <string>
@@ -18,10 +19,11 @@ namespace {
 
 using framework::String;
 
-/// The order that goes with the program's equality of texts.
+/// An order that goes with the program's equality of texts.
 struct TextLess {
   bool operator()(const String& a, const String& b) const {
-    return framework::RuntimeStringCompare(a, b) < 0;
+    return std::ranges::lexicographical_compare(a.View(), b.View(), {}, &framework::Folded,
+                                                &framework::Folded);
   }
 };
 

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -19,8 +20,9 @@ class Array {
  public:
   /// Nil.
   Array() noexcept = default;
-  Array(std::initializer_list<T> elements) : elements_(RuntimeNewObject<Elements>()) {
-    elements_->items = elements;
+  Array(std::initializer_list<T> elements) : Array(std::vector<T>(elements)) {}
+  explicit Array(std::vector<T> elements) : elements_(RuntimeNewObject<Elements>()) {
+    elements_->items = std::move(elements);
   }
 
   T& operator[](std::int64_t index) const {
@@ -31,7 +33,13 @@ class Array {
   }
   /// -1 when there is no element.
   std::int64_t LastIndex() const { return static_cast<std::int64_t>(elements_->items.size()) - 1; }
-  void Append(T element) const { elements_->items.push_back(std::move(element)); }
+  /// Appends an element that is made of the arguments.
+  template <class... Arguments>
+  void Append(Arguments&&... arguments) const {
+    elements_->items.emplace_back(std::forward<Arguments>(arguments)...);
+  }
+  /// The elements, until there are more or fewer of them.
+  std::span<const T> _Items() const { return elements_->items; }
   void Remove(std::int64_t index) const {
     (*this)[index];
     elements_->items.erase(elements_->items.begin() + index);

@@ -20,7 +20,7 @@ Array<StackFrame> RuntimeException::CallStack() const {
   for (void* const address : addresses_) {
     Dl_info symbol{};
     const bool named = dladdr(address, &symbol) != 0 && symbol.dli_sname != nullptr;
-    frames.Append({address, named ? String(symbol.dli_sname) : String()});
+    frames.Append(StackFrame{address, named ? String(symbol.dli_sname) : String()});
   }
   return frames;
 }

@@ -1,5 +1,7 @@
 #include "framework/listbox.h"
 
+#include <algorithm>
+
 #include "framework/failures.h"
 #include "framework/runtime.h"
 
@@ -55,12 +57,23 @@ void Listbox::ColumnCount(std::int64_t value) {
 
 void Listbox::AddRow(const Array<String>& values) {
   _UITrap();
-  const std::int64_t last = values.LastIndex();
-  cells_.resize(cells_.size() + static_cast<std::size_t>(column_count_));
+  Append(values._Items());
+}
+
+void Listbox::AddRow(std::initializer_list<String> values) {
+  _UITrap();
+  Append({values.begin(), values.size()});
+}
+
+void Listbox::Append(std::span<const String> values) {
+  const auto columns = static_cast<std::size_t>(column_count_);
+  const std::size_t size = cells_.size() + columns;
+  const std::size_t fitting = std::min(values.size(), columns);
+  cells_.insert(cells_.end(), values.begin(),
+                values.begin() + static_cast<std::ptrdiff_t>(fitting));
+  cells_.resize(size);
   _Changed(Change::Rows);
-  if (last < 0) return;
-  const std::int64_t row = LastIndex();
-  for (std::int64_t column = 0; column <= last; ++column) Cell(row, column, values[column]);
+  if (fitting < values.size()) RaiseOutOfBoundsException(column_count_, column_count_ - 1);
 }
 
 const String& Listbox::Cell(std::int64_t row, std::int64_t column) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 #include <vector>
 
 #include "framework/array.h"
@@ -48,7 +49,7 @@ class Listbox : public RectControl {
   /// has no column, with the row and the cells before it in place.
   void AddRow(const Array<String>& values);
   /// The same, with the values one by one.
-  void AddRow(std::initializer_list<String> values) { AddRow(Array<String>(values)); }
+  void AddRow(std::initializer_list<String> values);
 
   /// The text last stored in the cell. Both forms raise OutOfBoundsException outside the list.
   const String& Cell(std::int64_t row, std::int64_t column) const;
@@ -66,6 +67,7 @@ class Listbox : public RectControl {
   void Select(std::int64_t row);
 
  private:
+  void Append(std::span<const String> values);
   std::size_t Place(std::int64_t row, std::int64_t column) const;
 
   std::int64_t column_count_ = 1;

@@ -2,10 +2,11 @@
 
 namespace framework {
 
-Object::~Object() { ForgetWeakReferences(); }
+Object::~Object() {
+  if (link_ != nullptr) ForgetWeakReferences();
+}
 
 void Object::ForgetWeakReferences() noexcept {
-  if (link_ == nullptr) return;
   link_->object = nullptr;
   if (link_->holders == 0) delete link_;
   link_ = nullptr;
@@ -19,7 +20,7 @@ Object::WeakLink& Object::Link() {
 // Not in the class: where it is compiled into a caller, GCC warns of uses behind a delete that the
 // caller's own reference rules out.
 void Object::Go() noexcept {
-  ForgetWeakReferences();
+  if (link_ != nullptr) ForgetWeakReferences();
   delete this;
 }
 

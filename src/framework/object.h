@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 namespace framework {
 
@@ -37,8 +38,8 @@ class Object {
   WeakLink& Link();
   void ForgetWeakReferences() noexcept;
 
-  std::size_t references_ = 0;
   WeakLink* link_ = nullptr;
+  std::uint32_t references_ = 0;
 };
 
 }  // namespace framework

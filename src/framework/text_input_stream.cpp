@@ -40,20 +40,25 @@ Ref<TextInputStream> TextInputStream::Open(const Ref<FolderItem>& item) {
 }
 
 String TextInputStream::ReadLine() {
-  std::string line;
+  String line;
+  std::string head;  // what earlier blocks have of the line
   bool ended = false;
   while (!ended && Ready()) {
-    const auto begin = buffer_.begin() + static_cast<std::ptrdiff_t>(position_);
-    const auto end =
-        std::find_if(begin, buffer_.end(), [](char c) { return c == '\n' || c == '\r'; });
-    line.append(begin, end);
-    position_ += static_cast<std::size_t>(end - begin);
-    if (end == buffer_.end()) continue;
-    ended = true;
-    const bool carriage_return = *end == '\r';
+    const std::string_view rest = block_.View().substr(position_);
+    std::size_t size = std::min(rest.find('\n'), rest.size());
+    if (has_returns_) size = std::min(rest.substr(0, size).find('\r'), size);
+    ended = size < rest.size();
+    if (ended && head.empty()) {
+      line = String(block_, position_, size);
+    } else {
+      head.append(rest.substr(0, size));
+    }
+    position_ += size;
+    if (!ended) continue;
     ++position_;
-    if (carriage_return && Ready() && buffer_[position_] == '\n') ++position_;
+    if (rest[size] == '\r' && Ready() && block_.View()[position_] == '\n') ++position_;
   }
+  if (!head.empty()) line = head;
   // A line that came whole is given out; a failure met behind it waits for the next call.
   last_error_code_ = ended ? 0 : std::exchange(pending_error_, 0);
   CheckForError();
@@ -65,34 +70,31 @@ bool TextInputStream::EOF_() { return !Ready() && pending_error_ == 0; }
 void TextInputStream::Close() {
   if (file_ >= 0) close(file_);
   file_ = -1;
-  position_ = buffer_.size();
+  position_ = block_.View().size();
 }
 
 bool TextInputStream::Ready() {
-  if (position_ == buffer_.size() && pending_error_ == 0 && file_ >= 0) Fill();
-  return position_ < buffer_.size();
+  if (position_ == block_.View().size() && pending_error_ == 0 && file_ >= 0) Fill();
+  return position_ < block_.View().size();
 }
 
 void TextInputStream::Fill() {
-  buffer_.resize(kBlock);
-  position_ = 0;
-  const ssize_t count = ReadSome(file_, buffer_.data(), buffer_.size());
-  if (count < 0) pending_error_ = errno;
-  buffer_.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
-  if (!std::exchange(started_, true)) SkipByteOrderMark();
-}
-
-void TextInputStream::SkipByteOrderMark() {
-  // The file's first bytes may come in pieces, from a file system over a network say.
-  while (!buffer_.empty() && buffer_.size() < kByteOrderMark.size()) {
-    char next = 0;
-    if (ReadSome(file_, &next, 1) != 1) break;
-    buffer_.push_back(next);
-  }
-  if (std::string_view(buffer_.data(), buffer_.size()).starts_with(kByteOrderMark)) {
-    position_ = kByteOrderMark.size();
-    if (position_ == buffer_.size()) Fill();
-  }
+  // The file's first bytes may come in pieces, from a file system over a network say: a byte-order
+  // mark is only seen whole, and with something behind it.
+  const std::size_t wanted = started_ ? 1 : kByteOrderMark.size() + 1;
+  block_ = String::Written(kBlock, [&](char* to) {
+    std::size_t size = 0;
+    ssize_t count = 1;
+    while (size < wanted && count > 0) {
+      count = ReadSome(file_, to + size, kBlock - size);
+      if (count > 0) size += static_cast<std::size_t>(count);
+    }
+    if (count < 0) pending_error_ = errno;
+    return size;
+  });
+  const bool marked = !std::exchange(started_, true) && block_.View().starts_with(kByteOrderMark);
+  position_ = marked ? kByteOrderMark.size() : 0;
+  has_returns_ = block_.View().find('\r') != std::string_view::npos;
 }
 
 void TextInputStream::CheckForError() const {

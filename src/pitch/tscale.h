@@ -29,8 +29,9 @@ class TScale final : public framework::Object {
   const framework::String& Scale() const { return scale_; }
 
  private:
+  std::int32_t notes_ =
+      0;  ///< in the room behind the base: the smaller a record, the faster a pass
   framework::String bank_;
-  std::int64_t notes_ = 0;
   framework::String scale_;
 };
 
