@@ -1,11 +1,15 @@
 #include "matching/compare_scales.h"
 
+#include <optional>
+
 #include "framework/text.h"
+#include "matching/walk.h"
 #include "pitch/mask.h"
 
 namespace matching {
 
 using framework::Listbox;
+using framework::String;
 
 namespace {
 
@@ -17,18 +21,20 @@ std::int64_t TickedMask(const SearchWindow& window) {
   return mask;
 }
 
-/// Adds the rows of one root. root_name is asked at each match, and only then.
+/// Adds the rows of one root. root_name is asked at the first match, and not without one.
 template <class RootName>
 void AddMatches(const pitch::Scales& scales, std::int64_t mask, const RootName& root_name,
                 Listbox& exact, Listbox& containing) {
-  if (!scales) return;
-  for (std::int64_t i = 0; i <= scales.LastIndex(); ++i) {
-    const pitch::TScale& scale = *scales[i];
-    if (scale.Equivalent(mask)) exact.AddRow({scale.Bank(), scale.Scale(), root_name()});
-    if (scale.ContainsAll(mask)) {
-      containing.AddRow({scale.Bank(), scale.Scale(), root_name(), framework::Str(scale.Notes())});
-    }
-  }
+  std::optional<String> root;
+  const auto name = [&]() -> const String& { return root ? *root : root.emplace(root_name()); };
+  Walk(
+      scales, mask,
+      [&](const pitch::TScale& scale) {
+        exact.AddRow({scale.Bank(), scale.Scale(), name()});
+      },
+      [&](const pitch::TScale& scale) {
+        containing.AddRow({scale.Bank(), scale.Scale(), name(), framework::Str(scale.Notes())});
+      });
 }
 
 void SweepOtherRoots(const SearchWindow& window, std::int64_t mask, Listbox& exact,
