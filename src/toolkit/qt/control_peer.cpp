@@ -57,9 +57,10 @@ void ControlPeer::Build() {
   Look();
   for (const Change what : {Change::Rows, Change::Caption, Change::Text, Change::Value,
                             Change::ListIndex, Change::Visible}) {
-    Changed(what);
+    Show(what);
   }
   Place();
+  widget_->setVisible(control_->Visible());
 }
 
 void ControlPeer::Changed(Change what) {
@@ -81,12 +82,15 @@ void ControlPeer::Place() {
   // The frame keeps its measures. A text that is wider, in this platform's font, runs on past it as
   // far as nothing is in the way, and is condensed where something is.
   QRect place = FrameOf(*control_);
-  const int room = std::max(place.width(), RoomFor(*control_));
-  widget_->setFont(Condensed(widget_->font(), room, [this](const QFont& font) {
-    widget_->setFont(font);
-    return WantedWidth();
-  }));
-  place.setWidth(std::max(place.width(), std::min(WantedWidth(), room)));
+  int wanted = WantedWidth();
+  if (wanted > place.width() || widget_->font().stretch() != QFont::AnyStretch) {
+    const int room = std::max(place.width(), RoomFor(*control_));
+    widget_->setFont(Condensed(widget_->font(), room, [&](const QFont& font) {
+      widget_->setFont(font);
+      return wanted = WantedWidth();
+    }));
+    place.setWidth(std::max(place.width(), std::min(wanted, room)));
+  }
   widget_->setGeometry(place);
 }
 
@@ -99,7 +103,7 @@ void ControlPeer::Look() {
   font.setBold(control_->Bold());
   font.setItalic(control_->Italic());
   font.setUnderline(control_->Underline());
-  widget_->setFont(font);
+  if (font != widget_->font()) widget_->setFont(font);
 }
 
 void ControlPeer::Describe() {

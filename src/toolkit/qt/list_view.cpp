@@ -25,6 +25,7 @@ class RowDelegate final : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
     option->state &= ~QStyle::State_HasFocus;
+    if (option->fontMetrics.horizontalAdvance(option->text) <= RoomIn(*option)) return;
     option->font = Condensed(option->font, RoomIn(*option), [&](const QFont& font) {
       option->fontMetrics = QFontMetrics(font);
       return option->fontMetrics.horizontalAdvance(option->text);

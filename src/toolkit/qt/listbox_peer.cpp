@@ -62,6 +62,7 @@ void ListboxPeer::RefreshLater() {
 void ListboxPeer::Refresh() {
   refresh_pending_ = false;
   model_->TakeOver();
+  widget_->doItemsLayout();  // or the view would do it behind its painting, and paint again
   widget_->scrollToTop();
   ShowSelection();
 }

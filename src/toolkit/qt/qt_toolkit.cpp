@@ -67,7 +67,6 @@ void QtToolkit::Initialise() {
   }
   QApplication::setLayoutDirection(Qt::LeftToRight);
   QApplication::setDesktopFileName(QString::fromStdString(desktop_entry_));
-  QApplication::setWindowIcon(Icon());
   // The window says itself when the program ends.
   QApplication::setQuitOnLastWindowClosed(false);
   new Appearance(application_.get());
@@ -76,6 +75,9 @@ void QtToolkit::Initialise() {
 std::unique_ptr<WindowPeer> QtToolkit::Show(const Ref<Window>& window) {
   auto native = std::make_unique<NativeWindow>(window);
   native->show();
+  // The pictures are read while the window comes up, not before.
+  QMetaObject::invokeMethod(
+      native.get(), [] { QApplication::setWindowIcon(Icon()); }, Qt::QueuedConnection);
   return native;
 }
 
