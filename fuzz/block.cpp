@@ -95,7 +95,6 @@ Answer Plain(std::string_view bytes, std::string_view class_name, std::span<cons
       return answer;
     }
     if (name == "initialparent" && !value.empty()) {
-      answer.values[name] = value;
       answer.refusal = "InvalidParentException";
       return answer;
     }
