@@ -1,10 +1,7 @@
 #include "framework/notifications.h"
 
-#include <gmock/gmock.h>
-
 #include "framework/local_object_runtime.h"
-#include "framework/runtime.h"
-#include "toolkit/memory/memory_toolkit.h"
+#include "support/running.h"
 
 namespace {
 
@@ -12,197 +9,123 @@ using namespace framework;
 using namespace framework::_MacOSDistributedNotifications;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::SizeIs;
 using testing::StartsWith;
-
-/// What all clients of a test heard, in order: "name of the client: first word of the
-/// notification".
-std::vector<std::string> heard;
-
-class Client final : public iNotify {
- public:
-  explicit Client(std::string name) : name_(std::move(name)) { Register(*this); }
-  void _MacOSNotificationReceived(const String& name) override {
-    heard.push_back(name_ + " " + std::string(name));
-    if (does) does();
-  }
-  std::function<void()> does;
-
- private:
-  std::string name_;
-};
-
-Ref<Client> Make(const char* name) { return RuntimeNewObject<Client>(name); }
 
 const std::string kTheme = kThemeChanged;
 const std::string kColors = kColorsChanged;
 
-class Notifications : public testing::Test {
- protected:
-  Notifications() {
-    heard.clear();
-    RuntimeInit();
-    RuntimePerformInitializers({});
-  }
-  ~Notifications() override {
-    RuntimePerformFinalizers();
-    RuntimeExit();
-  }
-  toolkit::memory::MemoryToolkit toolkit_;
+class Client final : public iNotify {
+ public:
+  using Handler = std::function<void(const std::string& notification)>;
+  explicit Client(Handler handler) : handler_(std::move(handler)) { Register(*this); }
+  void _MacOSNotificationReceived(const String& name) override { handler_(std::string(name)); }
+
+ private:
+  Handler handler_;
 };
 
-TEST_F(Notifications, ReachClientsInOrderFromTheLoopOneAfterTheOther) {
-  const auto a = Make("a");
-  const auto b = Make("b");
-  _PostNotification(kThemeChanged);
-  _PostNotification(kColorsChanged);
-  _PostNotification("");
-  _PostNotification("SomethingElse");
-  EXPECT_THAT(heard, IsEmpty()) << "no client runs inside the delivery";
-  toolkit_.Run();
-  EXPECT_THAT(heard, ElementsAre("a " + kTheme, "b " + kTheme, "a " + kColors, "b " + kColors));
-}
+class Notifications : public support::Running {
+ protected:
+  /// A client that notes its name with each notification, and then does more.
+  Ref<Client> Make(
+      const std::string& name, const std::function<void()>& more = [] {}) {
+    return RuntimeNewObject<Client>([this, name, more](const std::string& notification) {
+      toolkit_.Log(name + " " + notification);
+      more();
+    });
+  }
+};
 
-TEST_F(Notifications, ComeTwiceToAClientThatRegisteredTwice) {
+struct Watching final : Application {
+  void Event_AppearanceChanged() override { ++changes; }
+  int changes = 0;
+};
+
+TEST_F(Notifications, ReachClientsInOrderAllInOneEvent) {
   const auto a = Make("a");
+  const auto app = RuntimeNewObject<Watching>();
+  const auto b = Make("b");
   Register(*a);
   _PostNotification(kThemeChanged);
+  toolkit_.Post([this] { toolkit_.Log("the next event"); });
+  for (const char* const name : {kColorsChanged, "", "SomethingElse"}) _PostNotification(name);
+  EXPECT_THAT(toolkit_.Lines(), IsEmpty()) << "no client runs inside the delivery";
   toolkit_.Run();
-  EXPECT_THAT(heard, SizeIs(2));
-}
-
-TEST_F(Notifications, StepOverAClientThatDiedAndReachOneThatCameMeanwhile) {
-  auto a = Make("a");
-  const auto b = Make("b");
-  Ref<Client> late;
-  b->does = [&] {
-    if (!late) late = Make("late");
-  };
-  _PostNotification(kThemeChanged);
-  a = nullptr;
-  toolkit_.Run();
-  EXPECT_THAT(heard, ElementsAre("b " + kTheme, "late " + kTheme));
-}
-
-TEST_F(Notifications, StayAtTheHeadWhenAClientFails) {
-  const auto a = Make("a");
-  const auto b = Make("b");
-  const auto c = Make("c");
-  b->does = [&] {
-    b->does = nullptr;
-    RuntimeRaiseException(IOException());
-  };
-  _PostNotification(kThemeChanged);
-  toolkit_.Run();
-  EXPECT_THAT(heard, ElementsAre("a " + kTheme, "b " + kTheme));
-  EXPECT_THAT(toolkit_.Lines(), ElementsAre("run", StartsWith("failure IOException")));
-  heard.clear();
-  _PostNotification(kColorsChanged);
-  toolkit_.Run();
-  EXPECT_THAT(heard, ElementsAre("a " + kTheme, "b " + kTheme, "c " + kTheme, "a " + kColors,
-                                 "b " + kColors, "c " + kColors));
-}
-
-TEST_F(Notifications, OfABurstAreAllServedByTheFirstRun) {
-  const auto a = Make("a");
-  std::size_t served_by_first = 0;
-  _PostNotification(kThemeChanged);
-  toolkit_.Post([&] { served_by_first = heard.size(); });
-  for (int i = 1; i < 10'000; ++i) _PostNotification(kThemeChanged);
-  toolkit_.Run();
-  EXPECT_EQ(served_by_first, 10'000U);
-  EXPECT_THAT(heard, SizeIs(10'000));
-}
-
-class Watching final : public Application {
- public:
-  int changes = 0;
-
- protected:
-  void Event_AppearanceChanged() override { ++changes; }
-};
-
-TEST_F(Notifications, RaiseTheEventOfAnApplicationForTheTwoNamesAlone) {
-  const auto app = RuntimeNewObject<Watching>();
-  const auto silent = RuntimeNewObject<Application>();
-  _PostNotification(kThemeChanged);
-  _PostNotification(kColorsChanged);
-  toolkit_.Run();
-  app->_MacOSNotificationReceived("SomethingElse");
-  EXPECT_EQ(toolkit_.Lines().back(), "run") << "the one without a handler is silent";
+  EXPECT_THAT(toolkit_.Lines(),
+              ElementsAre("run", "a " + kTheme, "b " + kTheme, "a " + kTheme, "a " + kColors,
+                          "b " + kColors, "a " + kColors, "the next event"));
   EXPECT_EQ(app->changes, 2);
 }
 
-/// A runtime that refuses, and notes what it was asked.
+TEST_F(Notifications, StepOverAClientThatDiedAndReachOneThatCameMeanwhile) {
+  Ref<Client> late;
+  auto a = Make("a");
+  const auto b = Make("b", [&] { late = Make("late"); });
+  _PostNotification(kThemeChanged);
+  a = nullptr;
+  toolkit_.Run();
+  EXPECT_THAT(toolkit_.Lines(), ElementsAre("run", "b " + kTheme, "late " + kTheme));
+}
+
+TEST_F(Notifications, StayAtTheHeadWhenAClientFails) {
+  bool fails = true;
+  const auto a = Make("a", [&] {
+    if (std::exchange(fails, false)) RuntimeRaiseException(IOException());
+  });
+  const auto b = Make("b");
+  for (const char* const name : {kThemeChanged, kColorsChanged}) {
+    _PostNotification(name);
+    toolkit_.Run();
+  }
+  EXPECT_THAT(toolkit_.Lines(),
+              ElementsAre("run", "a " + kTheme, StartsWith("failure IOException"), "run",
+                          "a " + kTheme, "b " + kTheme, "a " + kColors, "b " + kColors));
+}
+
+/// A system that refuses one thing, and notes in the log what it is asked.
 class Refusing final : public ObjectRuntime {
  public:
-  Refusing(std::string refuses, std::vector<std::string>& asked)
-      : refuses_(std::move(refuses)), asked_(asked) {}
+  Refusing(std::string refused, toolkit::memory::MemoryToolkit& toolkit)
+      : refused_(std::move(refused)), toolkit_(toolkit) {}
 
-  Ptr NSSelectorFromString(const String& text) override { return Answer("selector", text); }
-  Ptr NSClassFromString(const String& name) override { return Answer("class", name); }
-  Ptr objc_allocateClassPair(Ptr, const String& name) override {
-    EXPECT_EQ(name.View().size(), 31U);
-    return Answer("allocate");
-  }
+  Ptr NSSelectorFromString(const String&) override { return Answer("selector"); }
+  Ptr NSClassFromString(const String&) override { return Answer("class"); }
+  Ptr objc_allocateClassPair(Ptr, const String&) override { return Answer("allocate"); }
   void objc_registerClassPair(Ptr) override { Answer("register"); }
-  bool class_addMethod(Ptr, Ptr, Implementation, const String& types) override {
-    return Answer("add", types) != nullptr;
-  }
+  bool class_addMethod(Ptr, Ptr, Implementation, const String&) override { return Answer("add"); }
   Ptr alloc(Ptr) override { return Answer("alloc"); }
   Ptr init(Ptr) override { return Answer("init"); }
   Ptr defaultCenter(Ptr) override { return Answer("center"); }
-  void addObserver_selector_name_object(Ptr, Ptr, Ptr, const String& name, Ptr object) override {
-    EXPECT_EQ(object, nullptr);
-    Answer("observe", name);
+  void addObserver_selector_name_object(Ptr, Ptr, Ptr, const String& name, Ptr) override {
+    Answer(name);
   }
   String name(Ptr) override { return {}; }
 
  private:
-  Ptr Answer(const std::string& what, const String& detail = {}) {
-    asked_.push_back(what + (detail.View().empty() ? "" : " ") + std::string(detail));
-    return what == refuses_ ? nullptr : this;
+  Ptr Answer(const String& question) {
+    toolkit_.Log(std::string(question));
+    return question.View() == refused_ ? nullptr : this;
   }
-  std::string refuses_;
-  std::vector<std::string>& asked_;
+  std::string refused_;
+  toolkit::memory::MemoryToolkit& toolkit_;
 };
 
-TEST_F(Notifications, SetTheirObserverUpStepByStep) {
-  std::vector<std::string> asked;
-  ObjectRuntime::_Set(std::make_unique<Refusing>("nothing", asked));
-  const auto a = Make("a");
-  const auto b = Make("b");
-  EXPECT_THAT(asked,
-              ElementsAre("selector gotCalled:", "class NSObject", "allocate", "register",
-                          "add v@:@", "alloc", "init", "class NSDistributedNotificationCenter",
-                          "center", "observe " + kTheme, "observe " + kColors));
-}
-
-TEST_F(Notifications, AreDoneWithoutWhereTheSystemHasNone) {
-  std::vector<std::string> asked;
-  ObjectRuntime::_Set(std::make_unique<Refusing>("allocate", asked));
-  const auto a = Make("a");
-  EXPECT_EQ(asked.back(), "allocate");
-  asked.clear();
-  const auto b = Make("b");
-  EXPECT_EQ(asked.back(), "allocate") << "the next one asks again";
-  ObjectRuntime::_Set(nullptr);
-  const auto c = Make("c");
-  _PostNotification(kThemeChanged);
-  toolkit_.Run();
-  EXPECT_THAT(heard, ElementsAre("c " + kTheme)) << "the first two were not added";
-}
-
-TEST_F(Notifications, GoOnBehindARefusedMethodWithoutAskingAgain) {
-  std::vector<std::string> asked;
-  ObjectRuntime::_Set(std::make_unique<Refusing>("add", asked));
-  const auto a = Make("a");
-  EXPECT_EQ(asked.back(), "add v@:@");
-  asked.clear();
-  const auto b = Make("b");
-  EXPECT_THAT(asked, ElementsAre("selector gotCalled:", "alloc", "init",
-                                 "class NSDistributedNotificationCenter", "center",
-                                 "observe " + kTheme, "observe " + kColors));
+TEST_F(Notifications, HaveTheirObserverSetUpStepByStepAsFarAsTheSystemGoes) {
+  const auto asked_by_two_clients = [this](const char* refused) {
+    RuntimePerformInitializers({});
+    ObjectRuntime::_Set(std::make_unique<Refusing>(refused, toolkit_));
+    toolkit_.ClearLog();
+    Make("a");
+    toolkit_.Log("again:");
+    Make("b");
+    return toolkit_.Lines();
+  };
+  EXPECT_THAT(
+      asked_by_two_clients("allocate"),
+      ElementsAre("selector", "class", "allocate", "again:", "selector", "class", "allocate"));
+  EXPECT_THAT(asked_by_two_clients("add"),
+              ElementsAre("selector", "class", "allocate", "register", "add", "again:", "selector",
+                          "alloc", "init", "class", "center", kTheme, kColors));
 }
 
 }  // namespace

@@ -11,11 +11,7 @@ namespace support {
 class TestBundle final : public framework::BundlePlatform {
  public:
   explicit TestBundle(std::string path) : path_(std::move(path)) {}
-  framework::String ResourcePath() override {
-    ++asked;
-    return path_;
-  }
-  static inline int asked = 0;
+  framework::String ResourcePath() override { return path_; }
 
  private:
   std::string path_;
