@@ -1,151 +1,137 @@
 #pragma once
 
-#include <sys/stat.h>
+#include <sys/resource.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <fstream>
+#include <functional>
 #include <random>
-#include <set>
 
 #include "support/program.h"
 
 namespace support {
 
-/// What the window should show, reckoned with sets of semitones.
-struct Oracle {
-  using Notes = std::set<int>;
+inline const std::string kNoNotes(12, '0');
 
-  std::vector<std::pair<std::string, Notes>> library;
+/// What the window should show, reckoned with strings of twelve digits, one for each note.
+struct Oracle {
+  std::vector<std::pair<std::string, std::string>> library;  ///< names, notes
   bool named = true;  ///< the opening came as far as the note names
-  Notes ticked;
+  std::string ticked = kNoNotes;
   int root = 3;
   bool other = false;
   bool in_list = false;
 
   std::vector<std::string> exact;
   std::vector<std::string> containing;
-  std::vector<Notes> shown;  ///< the scale of each row of the lower list
-  int chosen = -1;           ///< of the lower list
+  std::vector<std::string> notes;  ///< of each row of the lower list
   int chosen_exact = -1;
-  std::vector<std::string> captions = CaptionsFrom(3);
+  int chosen = -1;
+  std::string stars = kNoNotes;
   std::string value = " ";
   std::string scale = " ";
+  std::size_t told = 0;  ///< failures, since the last act
 
-  static std::vector<std::string> CaptionsFrom(int root) {
+  static std::string Number(const std::string& notes) {
+    return notes.substr(std::min<std::size_t>(notes.find('1'), 11));
+  }
+  std::vector<std::string> Captions() const {
     std::vector<std::string> names = {"A",       "A# / Bb", "B", "C",       "C# / Db", "D",
                                       "D# / Eb", "E",       "F", "F# / Gb", "G",       "G# / Ab"};
-    std::rotate(names.begin(), names.begin() + root, names.end());
+    std::rotate(names.begin(), names.begin() + (named ? root : 3), names.end());
     return names;
   }
-  /// The notes as digits, without those before the first 1.
-  static std::string Digits(const Notes& notes) {
-    std::string digits;
-    for (int i = 0; i < 12; ++i) {
-      if (notes.contains(i) || !digits.empty()) digits += notes.contains(i) ? '1' : '0';
-    }
-    return digits.empty() ? "0" : digits;
-  }
 
-  void Choose(int new_root) {
-    if (new_root == root) return;
-    root = new_root;
-    if (!named) return;  // the first caption fails, and the pass is not reached
-    captions = CaptionsFrom(root);
+  // What a hand does.
+  void Tick(int position) {
+    char& digit = ticked.begin()[position];
+    digit = digit == '1' ? '0' : '1';
     Compare();
   }
+  void TickOther() { TurnOver(other); }
+  void TickInListOnly() { TurnOver(in_list); }
+  void ChooseRoot(int row) {
+    if (row == root) return;
+    root = row;
+    named ? Compare() : Fail();
+  }
+  void ChooseExactRow(int row) { chosen_exact = row; }
   void ChooseRow(int row) {
     chosen = row;
-    if (row >= 0) scale = Digits(shown[static_cast<std::size_t>(row)]);
+    stars = notes.begin()[row];
+    scale = Number(stars);
   }
-  Notes Stars() const { return chosen < 0 ? Notes() : shown[static_cast<std::size_t>(chosen)]; }
+  void TakeChoiceBack() {
+    chosen = -1;
+    stars = kNoNotes;
+  }
 
+  /// A note's name was asked for that is not there.
+  void Fail() { ++told; }
+  void TurnOver(bool& option) {
+    option = !option;
+    Compare();
+  }
   void Compare() {
-    exact.clear();
-    containing.clear();
-    shown.clear();
-    chosen = chosen_exact = -1;
-    value = Digits(ticked);
-    for (int position = 0; position < 12; ++position) {
-      if (position > 0 && (!other || (in_list && !ticked.contains(position)))) continue;
-      Notes from_here;
-      for (const int note : ticked) from_here.insert((note - position + 12) % 12);
-      for (const auto& [name, notes] : library) {
-        const bool all =
-            std::includes(notes.begin(), notes.end(), from_here.begin(), from_here.end());
-        if (all && position > 0 && !named) return;  // fails at the first name
-        const std::string row = name + "|" + captions[static_cast<std::size_t>(position)];
-        if (notes == from_here) {
+    exact = containing = notes = {};
+    chosen_exact = -1;
+    TakeChoiceBack();
+    value = Number(ticked);
+    const std::vector<std::string> captions = Captions();
+    for (std::size_t i = 0; i < 12; ++i) {
+      if (i > 0 && (!other || (in_list && ticked[i] == '0'))) continue;
+      const std::string from_here = ticked.substr(i) + ticked.substr(0, i);
+      for (const auto& [name, mask] : library) {
+        if (!std::ranges::equal(mask, from_here, std::greater_equal())) continue;
+        if (i > 0 && !named) return Fail();
+        const std::string row = "Bank|" + name + "|" + captions[i];
+        if (mask == from_here) {
           exact.push_back(row);
-        } else if (all) {
-          containing.push_back(row + "|" + std::to_string(std::stoi(Digits(notes), nullptr, 2)));
-          shown.push_back(notes);
+        } else {
+          containing.push_back(row + "|" + std::to_string(std::stoi(mask, nullptr, 2)));
+          notes.push_back(mask);
         }
       }
     }
   }
 };
 
-/// A user without aim. It opens the program again and again, on libraries of every kind, does a
-/// thousand things each time, and holds all that the window has against the oracle after each.
-/// MONKEY_EVENTS and MONKEY_SEED in the environment say how often and from where.
+/// A user without aim, and the program before it. Play opens the program again and again, on
+/// libraries of every kind, does a hundred things each time, and holds all that the window has
+/// against the oracle after each. MONKEY_EVENTS and MONKEY_SEED in the environment say how often
+/// and from where.
 template <class Hand>
-class Monkey {
+class Monkey : ProgramOn<typename Hand::Toolkit> {
  public:
   static void Play(long events) {
+    constexpr long kSession = 100;
     events = FromEnvironment("MONKEY_EVENTS", events);
-    const auto seed = static_cast<unsigned>(
-        FromEnvironment("MONKEY_SEED", static_cast<long>(std::random_device()())));
-    const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
-    SCOPED_TRACE("again with: MONKEY_SEED=" + std::to_string(seed) +
-                 " MONKEY_EVENTS=" + std::to_string(events) +
-                 " PROGRAM --gtest_filter=" + test->test_suite_name() + "." + test->name());
-    Monkey monkey(seed);
-    long early = 0;
+    const long seed = FromEnvironment("MONKEY_SEED", std::random_device()() / 2);
+    SCOPED_TRACE("again with MONKEY_SEED=" + std::to_string(seed) +
+                 " MONKEY_EVENTS=" + std::to_string(events));
+    std::mt19937 random(static_cast<unsigned>(seed));
+    [[maybe_unused]] long early = 0;
     for (long done = 0; done < events && !testing::Test::HasFailure(); done += kSession) {
-      monkey.PlaySession(std::min(kSession, events - done));
-      if (done == 0) early = ResidentKilobytes();
+      Monkey(random).PlaySession(std::min(kSession, events - done));
+      if (done == 0) early = PeakKilobytes();
     }
-    constexpr long kLong = 100'000;
-    constexpr long kMargin = 16 * 1024;
-    if (kFreedIsHeld || events < kLong) return;
-    std::cout << "resident: " << early << " KiB early, " << ResidentKilobytes() << " KiB late\n";
-    EXPECT_LT(ResidentKilobytes(), early + kMargin) << "memory grows with use";
+#ifndef __SANITIZE_ADDRESS__  // which holds freed memory for a while, to see late uses of it
+    if (events < 1000 * kSession) return;
+    EXPECT_LT(PeakKilobytes(), early + 16 * 1024) << "memory grows with use";
+#endif
   }
 
  private:
-  static constexpr long kSession = 1000;
-#ifdef __SANITIZE_ADDRESS__
-  static constexpr bool kFreedIsHeld = true;  ///< for a while, to see late uses of it
-#else
-  static constexpr bool kFreedIsHeld = false;
-#endif
-
-  class Session : public ProgramOn<typename Hand::Toolkit> {
-   public:
-    void TestBody() override {}
-    using ProgramOn<typename Hand::Toolkit>::Captions;
-    using ProgramOn<typename Hand::Toolkit>::Containing;
-    using ProgramOn<typename Hand::Toolkit>::Exact;
-    using ProgramOn<typename Hand::Toolkit>::Open;
-    using ProgramOn<typename Hand::Toolkit>::Stars;
-    using ProgramOn<typename Hand::Toolkit>::Start;
-    using ProgramOn<typename Hand::Toolkit>::folder_;
-    using ProgramOn<typename Hand::Toolkit>::toolkit_;
-    using ProgramOn<typename Hand::Toolkit>::window_;
-  };
-
-  explicit Monkey(unsigned seed) : random_(seed) {}
+  explicit Monkey(std::mt19937& random) : random_(random) {}
 
   static long FromEnvironment(const char* name, long otherwise) {
     const char* const text = std::getenv(name);
     return text == nullptr ? otherwise : std::stol(text);
   }
-  static long ResidentKilobytes() {
-    std::ifstream statistics("/proc/self/statm");
-    long pages = 0;
-    statistics >> pages >> pages;
-    return pages * 4;
+  static long PeakKilobytes() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
   }
   int Pick(int count) { return std::uniform_int_distribution(0, count - 1)(random_); }
   int PickRow(const std::vector<std::string>& rows) {
@@ -153,112 +139,68 @@ class Monkey {
   }
 
   void PlaySession(long events) {
-    Session session;
-    Oracle oracle;
-    Open(session, oracle);
-    Hand hand(session.toolkit_, *session.window_);
+    OpenOnAnyLibrary();
+    Hand hand(this->toolkit_, *this->window_);
     for (long event = 0; event < events && !testing::Test::HasFailure(); ++event) {
-      SCOPED_TRACE("event " + std::to_string(event) + ": " + Act(hand, oracle));
-      Compare(session, oracle);
-      if constexpr (requires { hand.ExpectMirrored(*session.window_); }) {
-        hand.ExpectMirrored(*session.window_);
+      SCOPED_TRACE("event " + std::to_string(event) + ": " + (event == 0 ? "opening" : Act(hand)));
+      const auto& window = *this->window_;
+      EXPECT_EQ(this->Exact(), oracle_.exact);
+      EXPECT_EQ(this->Containing(), oracle_.containing);
+      EXPECT_EQ(this->Stars(), oracle_.stars);
+      EXPECT_EQ(this->Captions(), oracle_.Captions());
+      EXPECT_EQ(Text(window.lbValue()->Text()), oracle_.value);
+      EXPECT_EQ(Text(window.lbScale()->Text()), oracle_.scale);
+      EXPECT_EQ(window.lbContaining()->ListIndex(), oracle_.chosen);
+      EXPECT_EQ(window.lbExact()->ListIndex(), oracle_.chosen_exact);
+      EXPECT_EQ(window.pmRoot()->ListIndex(), oracle_.root);
+      if constexpr (Hand::kShowsFailures) {
+        hand.ExpectMirrored(window);
+      } else {
+        EXPECT_EQ(this->Told().size(), oracle_.told);
+        this->toolkit_.ClearLog();
       }
-      if constexpr (requires { session.toolkit_.ClearLog(); }) session.toolkit_.ClearLog();
     }
   }
 
-  /// A library of up to sixty scales, or one with which something is wrong.
-  void Open(Session& session, Oracle& oracle) {
+  /// Up to thirty scales, empty ones and full ones among them; at times with a fault at the end.
+  void OpenOnAnyLibrary() {
     std::string file = "a\nb";
-    for (int i = Pick(60); i > 0; --i) {
-      Oracle::Notes notes;
-      for (int note = 0; note < 12; ++note) {
-        if (Pick(2) == 0) notes.insert(note);
-      }
-      oracle.library.emplace_back("S" + std::to_string(i), notes);
-      file += "\nBank,S" + std::to_string(i);
-      for (int note = 0; note < 12; ++note) file += notes.contains(note) ? ",TRUE" : ",";
+    for (int i = Pick(30); i > 0; --i) {
+      auto& [name, notes] = oracle_.library.emplace_back("S" + std::to_string(i), kNoNotes);
+      const int quarters = Pick(5);
+      for (char& note : notes) note = Pick(4) < quarters ? '1' : '0';
+      file += "\n" + Line(name, notes);
     }
-    const int fault = Hand::kShowsFailures ? 9 : Pick(10);
-    if (fault >= 1 && fault <= 3) oracle.library.clear();
-    oracle.named = fault > 1;
-    switch (fault) {
-      case 0:
-        return session.Open(file + "\nBank,short");
-      case 1:
-        framework::SpecialFolder::_SetBundlePlatform(std::make_unique<TestBundle>(""));
-        return session.Start();
-      case 2:
-        mkdir(session.folder_.Path(library::kFileName).c_str(), 0700);
-        return session.Start();
-      case 3:
-        return session.Start();
-      default:
-        return session.Open(file);
-    }
+    oracle_.named = Hand::kShowsFailures || Pick(5) > 0;
+    oracle_.told = oracle_.named ? 0 : 1;
+    this->Open(oracle_.named ? file : file + "\nBank,short");
   }
 
   /// Does one thing, to the window and to the oracle. What it was.
-  std::string Act(Hand& hand, Oracle& oracle) {
+  std::string Act(Hand& hand) {
+    oracle_.told = 0;
+    const int note = Pick(12);
+    const int top = PickRow(oracle_.exact);
+    const int row = PickRow(oracle_.containing);
+    const auto both = [&](const std::string& act, const auto& operation) {
+      operation(oracle_);
+      operation(hand);
+      return act + ", note " + std::to_string(note) + ", rows " + std::to_string(top) + " and " +
+             std::to_string(row);
+    };
     const int what = Pick(12);
-    if (what < 5) {
-      const int position = Pick(12);
-      if (oracle.ticked.erase(position) == 0) oracle.ticked.insert(position);
-      oracle.Compare();
-      hand.Tick(position);
-      return "tick " + std::to_string(position);
-    }
-    if (what == 5) {
-      const int root = Pick(12);
-      oracle.Choose(root);
-      hand.ChooseRoot(root);
-      return "root " + std::to_string(root);
-    }
-    if (what == 6) {
-      oracle.other = !oracle.other;
-      oracle.Compare();
-      hand.TickOther();
-      return "other roots";
-    }
-    if (what == 7) {
-      oracle.in_list = !oracle.in_list;
-      oracle.Compare();
-      hand.TickInListOnly();
-      return "in list only";
-    }
-    if (what == 8) {
-      if constexpr (requires { hand.ChangeAppearance(); }) hand.ChangeAppearance();
-      const int row = PickRow(oracle.exact);
-      if (row < 0) return "no row of the upper list";
-      oracle.chosen_exact = row;
-      hand.ChooseExactRow(row);
-      return "row of the upper list " + std::to_string(row);
-    }
-    const int row = PickRow(oracle.containing);
-    oracle.ChooseRow(row);
-    if (row < 0) {
-      hand.TakeChoiceBack();
-    } else {
-      hand.ChooseRow(row);
-    }
-    return "row " + std::to_string(row);
+    if (what < 5) return both("tick", [&](auto& it) { it.Tick(note); });
+    if (what == 5) return both("root", [&](auto& it) { it.ChooseRoot(note); });
+    if (what == 6) return both("other roots", [](auto& it) { it.TickOther(); });
+    if (what == 7) return both("in list only", [](auto& it) { it.TickInListOnly(); });
+    if (what == 8) hand.ChangeAppearance();
+    if (what == 8 && top >= 0) return both("top row", [&](auto& it) { it.ChooseExactRow(top); });
+    if (row < 0) return both("no row", [](auto& it) { it.TakeChoiceBack(); });
+    return both("row", [&](auto& it) { it.ChooseRow(row); });
   }
 
-  static void Compare(const Session& session, const Oracle& oracle) {
-    const auto& window = *session.window_;
-    const Oracle::Notes stars = oracle.Stars();
-    EXPECT_EQ(session.Exact(), oracle.exact);
-    EXPECT_EQ(session.Containing(), oracle.containing);
-    EXPECT_EQ(session.Stars(), std::vector<int>(stars.begin(), stars.end()));
-    EXPECT_EQ(session.Captions(), oracle.captions);
-    EXPECT_EQ(Text(window.lbValue()->Text()), oracle.value);
-    EXPECT_EQ(Text(window.lbScale()->Text()), oracle.scale);
-    EXPECT_EQ(window.lbContaining()->ListIndex(), oracle.chosen);
-    EXPECT_EQ(window.lbExact()->ListIndex(), oracle.chosen_exact);
-    EXPECT_EQ(window.pmRoot()->ListIndex(), oracle.root);
-  }
-
-  std::mt19937 random_;
+  Oracle oracle_;
+  std::mt19937& random_;
 };
 
 }  // namespace support

@@ -14,33 +14,27 @@
 
 namespace support {
 
-/// A line of the library file, from the name and the semitones above the root.
-inline std::string Line(std::string_view name, std::initializer_list<int> semitones) {
-  std::string line = "Bank," + std::string(name);
-  for (int i = 0; i < 12; ++i) {
-    line +=
-        std::find(semitones.begin(), semitones.end(), i) != semitones.end() ? ",TRUE" : ",FALSE";
-  }
+/// A line of the library file, from the name and twelve digits for the notes from the root up.
+inline std::string Line(const std::string& name, std::string_view notes) {
+  std::string line = "Bank," + name;
+  for (const char note : notes) line += note == '1' ? ",TRUE" : ",FALSE";
   return line;
 }
 
-inline const std::string kMajor = Line("Major", {0, 2, 4, 5, 7, 9, 11});
-inline const std::string kMinor = Line("Minor", {0, 2, 3, 5, 7, 8, 10});
-inline const std::string kWholeTone = Line("Whole Tone", {0, 2, 4, 6, 8, 10});
-inline const std::string kTriad = Line("Triad", {0, 4, 7});
-/// The four of them behind the two leading lines.
-inline const std::string kFourScales =
-    "a\nb\n" + kMajor + "\n" + kMinor + "\n" + kWholeTone + "\n" + kTriad;
+inline const std::string kMajor = Line("Major", "101011010101");
+inline const std::string kTriad = Line("Triad", "100010010000");
+/// Four scales behind the two leading lines.
+inline const std::string kFourScales = "a\nb\n" + kMajor + "\n" + Line("Minor", "101101011010") +
+                                       "\n" + Line("Whole Tone", "101010101010") + "\n" + kTriad;
 
-/// The rows of a list, from its second column on: "Major|C|2773".
+/// The rows of a list: "Bank|Major|C|2773".
 inline std::vector<std::string> Rows(const framework::Listbox& list) {
   std::vector<std::string> rows;
   for (std::int64_t row = 0; row <= list.LastIndex(); ++row) {
-    std::string text(list.Cell(row, 1));
-    for (std::int64_t column = 2; column < list.ColumnCount(); ++column) {
-      text.append("|").append(list.Cell(row, column));
+    rows.emplace_back(list.Cell(row, 0));
+    for (std::int64_t column = 1; column < list.ColumnCount(); ++column) {
+      rows.back().append("|").append(list.Cell(row, column));
     }
-    rows.push_back(text);
   }
   return rows;
 }
@@ -48,13 +42,13 @@ inline std::vector<std::string> Rows(const framework::Listbox& list) {
 inline std::string Text(const framework::String& text) { return std::string(text); }
 
 /// The whole program on a toolkit, opened on a library of the test's. It must leave nothing behind.
+/// A test's fixture, or one of several in a test.
 template <class Toolkit>
 class ProgramOn : public testing::Test {
- protected:
+ public:
   ProgramOn() {
     framework::SpecialFolder::_SetBundlePlatform(std::make_unique<TestBundle>(folder_.Path()));
   }
-
   ~ProgramOn() override {
     const auto window = framework::RuntimeNewObject<framework::WeakRef>(window_);
     const auto app = framework::RuntimeNewObject<framework::WeakRef>(framework::getAppObject());
@@ -65,6 +59,8 @@ class ProgramOn : public testing::Test {
     EXPECT_FALSE(window->Value()) << "something still holds the window";
     EXPECT_FALSE(app->Value()) << "something still holds the application object";
   }
+
+  void TestBody() override {}
 
   void Open(std::string_view library = kFourScales) {
     folder_.Write(library::kFileName, library);
@@ -81,18 +77,26 @@ class ProgramOn : public testing::Test {
 
   std::vector<std::string> Exact() const { return Rows(*window_->lbExact()); }
   std::vector<std::string> Containing() const { return Rows(*window_->lbContaining()); }
-  /// The positions whose star shows.
-  std::vector<int> Stars() const {
-    std::vector<int> stars;
-    for (int i = 0; i < 12; ++i) {
-      if (window_->lbStar(i)->Visible()) stars.push_back(i);
-    }
+  /// A digit for each star: 1 for one that shows.
+  std::string Stars() const {
+    std::string stars;
+    for (int i = 0; i < 12; ++i) stars += window_->lbStar(i)->Visible() ? '1' : '0';
     return stars;
   }
   std::vector<std::string> Captions() const {
     std::vector<std::string> captions;
     for (int i = 0; i < 12; ++i) captions.emplace_back(window_->cbScale(i)->Caption());
     return captions;
+  }
+  /// What the toolkit's log has of messages and failures, up to a colon.
+  std::vector<std::string> Told() const {
+    std::vector<std::string> told;
+    for (const std::string& line : toolkit_.Lines()) {
+      if (line.starts_with("message") || line.starts_with("failure")) {
+        told.push_back(line.substr(0, line.find(':')));
+      }
+    }
+    return told;
   }
 
   Folder folder_;
