@@ -1,6 +1,5 @@
 #include "shell/start_up.h"
 
-#include "framework/menu.h"
 #include "menu/main_menu_bar.h"
 #include "support/program.h"
 #include "toolkit/memory/memory_toolkit.h"
@@ -9,7 +8,6 @@ namespace {
 
 using namespace framework;
 using namespace support;
-using testing::ElementsAre;
 
 /// What there is of the program at a moment.
 std::string Present() {
@@ -32,14 +30,15 @@ TEST_F(StartUp, RunsFromEntryToExitInOrder) {
     EXPECT_EQ(getAppObject()->MenuBar(), menu::MainMenuBar());
     EXPECT_EQ(Text(getAppObject()->Version()), "1.1");
     EXPECT_EQ(RuntimeFrameworkVersion(), 2019.01);
-    window::wdwMain()->FileQuit()->Choose();
+    window::wdwMain()->Close();
   });
   toolkit_.Post([this] { toolkit_.Log("never"); });
   EXPECT_EQ(shell::main(), 0);
-  EXPECT_THAT(seen, ElementsAre("initialise | sharp version app with menu",
-                                "show Orrel Pitchsieve | sharp version app with menu window",
-                                "run | sharp version app with menu window",
-                                "quit | sharp version app with menu window"));
+  EXPECT_THAT(seen,
+              testing::ElementsAre("initialise | sharp version app with menu",
+                                   "show Orrel Pitchsieve | sharp version app with menu window",
+                                   "run | sharp version app with menu window",
+                                   "quit | sharp version app with menu"));
   EXPECT_EQ(Present(), " sharp") << "the finalizers ran";
 }
 
@@ -48,7 +47,8 @@ TEST_F(StartUp, AnyFailureBeforeTheRunReachesTheOutermostBlock) {
     if (line == "initialise") throw std::runtime_error("odd");
   });
   EXPECT_EQ(shell::main(), 1);
-  EXPECT_THAT(toolkit_.Lines(), ElementsAre("initialise", "failure std::runtime_error: odd"));
+  EXPECT_THAT(toolkit_.Lines(),
+              testing::ElementsAre("initialise", "failure std::runtime_error: odd"));
   EXPECT_FALSE(getAppObject()) << "the finalizers ran all the same";
 }
 

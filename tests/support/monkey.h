@@ -134,9 +134,7 @@ class Monkey : ProgramOn<typename Hand::Toolkit> {
     return usage.ru_maxrss;
   }
   int Pick(int count) { return std::uniform_int_distribution(0, count - 1)(random_); }
-  int PickRow(const std::vector<std::string>& rows) {
-    return Pick(static_cast<int>(rows.size()) + 1) - 1;
-  }
+  int PickRow(const auto& rows) { return Pick(static_cast<int>(rows.size()) + 1) - 1; }
 
   void PlaySession(long events) {
     OpenOnAnyLibrary();

@@ -2,7 +2,6 @@
 
 #include <sstream>
 
-#include "framework/text.h"
 #include "support/program.h"
 #include "toolkit/memory/memory_toolkit.h"
 
