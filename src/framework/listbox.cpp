@@ -67,13 +67,11 @@ void Listbox::AddRow(std::initializer_list<String> values) {
 
 void Listbox::Append(std::span<const String> values) {
   const auto columns = static_cast<std::size_t>(column_count_);
-  const std::size_t size = cells_.size() + columns;
-  const std::size_t fitting = std::min(values.size(), columns);
-  cells_.insert(cells_.end(), values.begin(),
-                values.begin() + static_cast<std::ptrdiff_t>(fitting));
-  cells_.resize(size);
+  cells_.resize(cells_.size() + columns);
+  const auto fitting = values.first(std::min(values.size(), columns));
+  std::ranges::copy(fitting, cells_.end() - column_count_);
   _Changed(Change::Rows);
-  if (fitting < values.size()) RaiseOutOfBoundsException(column_count_, column_count_ - 1);
+  if (fitting.size() < values.size()) RaiseOutOfBoundsException(column_count_, column_count_ - 1);
 }
 
 const String& Listbox::Cell(std::int64_t row, std::int64_t column) const {
