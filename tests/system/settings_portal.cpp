@@ -5,77 +5,65 @@
 #include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusConnection>
-#include <QDBusContext>
 #include <QDBusMessage>
-#include <QDBusMetaType>
 #include <QDBusVariant>
+#include <QDBusVirtualObject>
 #include <QMap>
 #include <QSocketNotifier>
 #include <iostream>
 #include <sstream>
 #include <string>
 
-struct Rgb {
-  double red, green, blue;
-};
-Q_DECLARE_METATYPE(Rgb)
+const auto kPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const auto kScheme = QStringLiteral("color-scheme");
+const auto kAccent = QStringLiteral("accent-color");
 
-static QDBusArgument& operator<<(QDBusArgument& argument, const Rgb& color) {
-  argument.beginStructure();
-  argument << color.red << color.green << color.blue;
-  argument.endStructure();
-  return argument;
-}
-static const QDBusArgument& operator>>(const QDBusArgument& argument, Rgb& color) {
-  argument.beginStructure();
-  argument >> color.red >> color.green >> color.blue;
-  argument.endStructure();
-  return argument;
+static QVariant Color(double red, double green, double blue) {
+  QDBusArgument color;
+  color.beginStructure();
+  color << red << green << blue;
+  color.endStructure();
+  return QVariant::fromValue(color);
 }
 
-class Portal final : public QObject, protected QDBusContext {
-  Q_OBJECT
-  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
-
+class Portal final : public QDBusVirtualObject {
  public:
-  void Do(const std::string& line) {
-    std::istringstream words(line);
+  QString introspect(const QString&) const override { return {}; }
+
+  bool handleMessage(const QDBusMessage& question, const QDBusConnection& bus) override {
+    if (question.member() != QLatin1String("Read")) return false;
+    const QString key = question.arguments().value(1).toString();
+    // What is read comes in a variant of its own.
+    const QVariant answer = QVariant::fromValue(QDBusVariant(values_.value(key)));
+    if (mute_) return true;
+    return bus.send(values_.contains(key)
+                        ? question.createReply(QVariant::fromValue(QDBusVariant(answer)))
+                        : question.createErrorReply(QDBusError::InvalidArgs, key));
+  }
+
+  void Do(std::istringstream line) {
     std::string deed;
-    words >> deed;
-    if (deed == "mute") {
-      mute_ = true;
-    } else if (deed == "nonsense") {
-      Tell(QStringLiteral("color-scheme"), QStringLiteral("very dark"));
-      Tell(QStringLiteral("accent-color"), QVariant::fromValue(Rgb{2, -1, 7}));
-      Tell(QStringLiteral("accent-color"), 5);
-    } else if (deed == "color-scheme") {
-      uint scheme = 0;
-      words >> scheme;
-      Tell(QStringLiteral("color-scheme"), scheme);
-    } else if (deed == "accent-color") {
-      Rgb color{};
-      words >> color.red >> color.green >> color.blue;
-      Tell(QStringLiteral("accent-color"), QVariant::fromValue(color));
+    line >> deed;
+    mute_ = deed == "mute";
+    if (deed == "nonsense") {
+      Tell(kScheme, QStringLiteral("very dark"));
+      Tell(kAccent, Color(2, -1, 7));
+      Tell(kAccent, 5);
+    } else if (uint scheme = 0; deed == "color-scheme" && line >> scheme) {
+      Tell(kScheme, scheme);
+    } else if (double r = 0, g = 0, b = 0; deed == "accent-color" && line >> r >> g >> b) {
+      Tell(kAccent, Color(r, g, b));
     }
   }
-
- public slots:
-  QDBusVariant Read(const QString&, const QString& key) {
-    if (mute_) setDelayedReply(true);
-    if (!values_.contains(key)) {
-      sendErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotFound"), key);
-      return {};
-    }
-    return QDBusVariant(QVariant::fromValue(QDBusVariant(values_[key])));
-  }
-
- signals:
-  void SettingChanged(const QString& space, const QString& key, const QDBusVariant& value);
 
  private:
   void Tell(const QString& key, const QVariant& value) {
     values_[key] = value;
-    emit SettingChanged(QStringLiteral("org.freedesktop.appearance"), key, QDBusVariant(value));
+    QDBusMessage signal = QDBusMessage::createSignal(
+        kPath, QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("SettingChanged"));
+    signal << QStringLiteral("org.freedesktop.appearance") << key
+           << QVariant::fromValue(QDBusVariant(value));
+    QDBusConnection::sessionBus().send(signal);
   }
 
   QMap<QString, QVariant> values_;
@@ -84,12 +72,9 @@ class Portal final : public QObject, protected QDBusContext {
 
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
-  qDBusRegisterMetaType<Rgb>();
-  qRegisterMetaType<QDBusVariant>();
   Portal portal;
   QDBusConnection bus = QDBusConnection::sessionBus();
-  if (!bus.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), &portal,
-                          QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals) ||
+  if (!bus.registerVirtualObject(kPath, &portal) ||
       !bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"))) {
     return EXIT_FAILURE;
   }
@@ -97,11 +82,9 @@ int main(int argc, char** argv) {
   QObject::connect(&input, &QSocketNotifier::activated, &portal, [&portal] {
     std::string line;
     if (!std::getline(std::cin, line)) return QCoreApplication::quit();
-    portal.Do(line);
+    portal.Do(std::istringstream(line));
     std::cout << "done" << std::endl;
   });
   std::cout << "ready" << std::endl;
   return QCoreApplication::exec();
 }
-
-#include "settings_portal.moc"
