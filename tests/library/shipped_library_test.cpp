@@ -1,6 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <algorithm>
 #include <array>
 #include <fstream>
 #include <map>
@@ -66,10 +65,12 @@ std::int64_t NextMode(std::int64_t notes) {
 TEST(ShippedLibrary, HasItsScalesAsMusiciansKnowThem) {
   const std::vector<Entry> library = ShippedLibrary();
   std::set<std::string> known;
+  std::set<std::string> whole_banks;
   std::int64_t notes = 0;
   std::ifstream facts(KNOWN_SCALES);
   for (std::string line; std::getline(facts, line);) {
-    if (line.empty() || line.starts_with('#')) continue;
+    if (line.starts_with('[')) whole_banks.insert(line.substr(1, line.size() - 2));
+    if (line.find('|') == line.npos) continue;
     const std::int64_t degrees = Degrees(line.substr(0, line.find('|')));
     notes = degrees != 0 ? degrees : NextMode(notes);
     const auto names = Split(line.substr(line.find("| ") + 2), " = ");
@@ -85,36 +86,11 @@ TEST(ShippedLibrary, HasItsScalesAsMusiciansKnowThem) {
       EXPECT_TRUE(found) << "no " << name;
     }
   }
-  const std::set<std::string> known_banks = {
-      "Common",          "Major Modes",       "Harmonic Minor", "Melodic Minor",
-      "Harmonic Major",  "Double Harmonic",   "Symmetric",      "Neapolitan Modes",
-      "Triads",          "Sixth/Add Chords",  "Seventh Chords", "Ninth Chords",
-      "Eleventh Chords", "Thirteenth Chords", "Altered Chords", "Hindustani Thaats",
-      "Ancient Greek"};
+  EXPECT_GT(whole_banks.size(), 0U);
   for (const Entry& entry : library) {
-    if (!known_banks.contains(entry.bank)) continue;
-    EXPECT_TRUE(known.contains(entry.Title())) << entry.Title() << " is not among the known";
+    if (!whole_banks.contains(entry.bank)) continue;
+    EXPECT_TRUE(known.contains(entry.Title())) << entry.Title() << " is not known";
   }
-}
-
-/// The melakarta: the natural fourth, then the sharp one; under each the six pairs of Ri and Ga;
-/// under each of these the six pairs of Dha and Ni.
-TEST(ShippedLibrary, HasTheMelakartaInTheOrderOfTheirScheme) {
-  std::vector<std::int64_t> scheme;
-  for (const std::string ma : {" 4 5 ", " #4 5 "}) {
-    for (const std::string ri_ga : {"b2 2", "b2 b3", "b2 3", "2 b3", "2 3", "#2 3"}) {
-      for (const std::string dha_ni : {"b6 6", "b6 b7", "b6 7", "6 b7", "6 7", "#6 7"}) {
-        scheme.push_back(Degrees("1 " + ri_ga + ma + dha_ni));
-      }
-    }
-  }
-  std::vector<std::int64_t> melakarta;
-  for (const Entry& entry : ShippedLibrary()) {
-    if (entry.bank != "Carnatic Melakarta") continue;
-    melakarta.push_back(entry.notes);
-    EXPECT_EQ(std::stoul(entry.name), melakarta.size()) << entry.name;
-  }
-  EXPECT_EQ(melakarta, scheme);
 }
 
 TEST(ShippedLibrary, MeansTheSameNotesByANameInEachBank) {
@@ -125,27 +101,6 @@ TEST(ShippedLibrary, MeansTheSameNotesByANameInEachBank) {
     if (homonyms.contains(entry.name)) continue;
     const Entry& first = firsts.try_emplace(entry.name, entry).first->second;
     EXPECT_EQ(entry.notes, first.notes) << entry.Title() << " is not " << first.Title();
-  }
-}
-
-TEST(ShippedLibrary, KeepsABankTogetherAndBeginsWithTheCommon) {
-  std::vector<std::string> banks;
-  for (const Entry& entry : ShippedLibrary()) {
-    if (banks.empty() || banks.back() != entry.bank) banks.push_back(entry.bank);
-  }
-  EXPECT_EQ(banks.front(), "Common");
-  EXPECT_EQ(std::set<std::string>(banks.begin(), banks.end()).size(), banks.size());
-}
-
-TEST(ShippedLibrary, SurvivesASpreadsheetProgram) {
-  std::ifstream file(SHIPPED_LIBRARY, std::ios::binary);
-  std::stringstream bytes;
-  bytes << file.rdbuf();
-  EXPECT_EQ(bytes.str().find_first_of("\r;\"\t"), std::string::npos);
-  EXPECT_FALSE(bytes.str().ends_with('\n'));
-  int number = 0;
-  for (std::string line; std::getline(bytes, line);) {
-    EXPECT_EQ(std::ranges::count(line, ','), ++number == 2 ? 0 : 13) << line;
   }
 }
 
