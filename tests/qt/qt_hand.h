@@ -5,10 +5,11 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QMainWindow>
 #include <QTableView>
 #include <QTest>
+#include <functional>
 
-#include "toolkit/qt/native_window.h"
 #include "toolkit/qt/qt_toolkit.h"
 #include "window/main_window.h"
 
@@ -18,20 +19,25 @@ namespace support {
 class QtTestToolkit final : public toolkit::qt::QtToolkit {
  public:
   QtTestToolkit() : QtToolkit("Orrel Pitchsieve", "orrel-pitchsieve") {}
+  void Initialise() override {
+    QtToolkit::Initialise();
+    before_the_window();
+  }
+  std::function<void()> before_the_window = [] {};
 };
 
 /// The native window of the program.
-inline toolkit::qt::NativeWindow& Native() {
+inline QMainWindow& Native() {
   for (QWidget* const widget : QApplication::topLevelWidgets()) {
-    if (auto* const window = dynamic_cast<toolkit::qt::NativeWindow*>(widget)) return *window;
+    if (auto* const window = qobject_cast<QMainWindow*>(widget)) return *window;
   }
   throw std::runtime_error("no window stands on the screen");
 }
 
 template <class Widget = QWidget>
-Widget& Find(const char* name) {
-  auto* const widget = Native().findChild<Widget*>(QLatin1String(name));
-  if (widget == nullptr) throw std::runtime_error(std::string("no widget ") + name);
+Widget& Find(const std::string& name) {
+  auto* const widget = Native().findChild<Widget*>(QString::fromStdString(name));
+  if (widget == nullptr) throw std::runtime_error("no widget " + name);
   return *widget;
 }
 
@@ -43,29 +49,26 @@ class QtHand {
 
   QtHand(Toolkit&, window::wdwMainClass&) {
     Native().activateWindow();
-    if (!QTest::qWaitForWindowActive(&Native())) throw std::runtime_error("no active window");
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&Native()));
   }
 
   /// Even positions by mouse, odd ones by key.
   void Tick(int position) {
-    Press(Find<QCheckBox>(("cbScale" + std::to_string(position)).c_str()), position % 2 == 0);
+    QWidget& box = Find("cbScale" + std::to_string(position));
+    if (position % 2 == 0) return Click(box, QPoint(8, box.height() / 2));
+    Press(box, Qt::Key_Space);
   }
-  void TickOther() { Press(Find<QCheckBox>("cbOther"), true); }
-  void TickInListOnly() { Press(Find<QCheckBox>("cbRinL"), false); }
+  void TickOther() { Click(Find("cbOther"), QPoint(8, 8)); }
+  void TickInListOnly() { Press(Find("cbRinL"), Qt::Key_Space); }
   void ChooseRoot(int row) {
     auto& popup = Find<QComboBox>("pmRoot");
     popup.setFocus();
-    while (popup.currentIndex() != row) {
-      QTest::keyClick(&popup, popup.currentIndex() < row ? Qt::Key_Down : Qt::Key_Up);
-    }
-    QApplication::processEvents();
+    const Qt::Key key = popup.currentIndex() < row ? Qt::Key_Down : Qt::Key_Up;
+    while (popup.currentIndex() != row) Press(popup, key);
   }
-  void ChooseRow(int row) { Click(Find<QTableView>("lbContaining"), row); }
-  void ChooseExactRow(int row) { Click(Find<QTableView>("lbExact"), row); }
-  void TakeChoiceBack() {
-    QTest::keyClick(&Find("lbContaining"), Qt::Key_Escape);
-    QApplication::processEvents();
-  }
+  void ChooseRow(int row) { ClickRow("lbContaining", row); }
+  void ChooseExactRow(int row) { ClickRow("lbExact", row); }
+  void TakeChoiceBack() { Press(Find("lbContaining"), Qt::Key_Escape); }
   /// The desktop turns dark, or light again.
   void ChangeAppearance() {
     dark_ = !dark_;
@@ -73,48 +76,44 @@ class QtHand {
     QApplication::processEvents();
   }
 
+  static void Press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers with = {}) {
+    QTest::keyClick(&widget, key, with);
+    QApplication::processEvents();
+  }
+  static void Click(QWidget& widget, const QPoint& place, Qt::KeyboardModifiers with = {}) {
+    QTest::mouseClick(&widget, Qt::LeftButton, with, place);
+    QApplication::processEvents();
+  }
+  static void ClickRow(const char* list, int row, Qt::KeyboardModifiers with = {}) {
+    auto& view = Find<QTableView>(list);
+    const QModelIndex name = view.model()->index(row, 1);
+    view.scrollTo(name);
+    Click(*view.viewport(), view.visualRect(name).center(), with);
+  }
+
   /// The screen shows what the controls hold.
   void ExpectMirrored(const window::wdwMainClass& window) const {
     for (int i = 0; i < 12; ++i) {
-      const std::string number = std::to_string(i);
-      const auto& box = Find<QCheckBox>(("cbScale" + number).c_str());
+      const auto& box = Find<QCheckBox>("cbScale" + std::to_string(i));
       EXPECT_EQ(box.isChecked(), window.cbScale(i)->Value());
       EXPECT_EQ(box.text().toStdString(), std::string(window.cbScale(i)->Caption()));
-      EXPECT_EQ(Find(("lbStar" + number).c_str()).isVisible(), window.lbStar(i)->Visible());
+      EXPECT_EQ(Find("lbStar" + std::to_string(i)).isVisible(), window.lbStar(i)->Visible());
     }
     EXPECT_EQ(Find<QComboBox>("pmRoot").currentIndex(), window.pmRoot()->ListIndex());
-    ExpectMirrored(Find<QTableView>("lbExact"), *window.lbExact());
-    ExpectMirrored(Find<QTableView>("lbContaining"), *window.lbContaining());
+    for (const auto& list : {window.lbExact(), window.lbContaining()}) {
+      const auto& view = Find<QTableView>(std::string(list->Name()));
+      const QAbstractItemModel& model = *view.model();
+      ASSERT_EQ(model.rowCount(), list->LastIndex() + 1);
+      for (int cell = 0; cell < model.rowCount() * 3; ++cell) {
+        EXPECT_EQ(model.index(cell / 3, cell % 3).data().toString().toStdString(),
+                  std::string(list->Cell(cell / 3, cell % 3)));
+      }
+      const QModelIndexList chosen = view.selectionModel()->selectedRows();
+      EXPECT_EQ(chosen.isEmpty() ? -1 : chosen.front().row(), list->ListIndex());
+    }
   }
 
  private:
-  static void ExpectMirrored(const QTableView& view, const framework::Listbox& list) {
-    const QAbstractItemModel& model = *view.model();
-    ASSERT_EQ(model.rowCount(), list.LastIndex() + 1);
-    for (int row = 0; row < model.rowCount(); ++row) {
-      for (int column = 0; column < 3; ++column) {
-        EXPECT_EQ(model.index(row, column).data().toString().toStdString(),
-                  std::string(list.Cell(row, column)));
-      }
-    }
-    const QModelIndexList chosen = view.selectionModel()->selectedRows();
-    EXPECT_EQ(chosen.isEmpty() ? -1 : chosen.front().row(), list.ListIndex());
-  }
-  static void Press(QCheckBox& box, bool by_mouse) {
-    if (by_mouse) {
-      QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(8, box.height() / 2));
-    } else {
-      QTest::keyClick(&box, Qt::Key_Space);
-    }
-    QApplication::processEvents();
-  }
-  static void Click(QTableView& list, int row) {
-    list.scrollTo(list.model()->index(row, 1));
-    const QRect cell = list.visualRect(list.model()->index(row, 1));
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, cell.center());
-    QApplication::processEvents();
-  }
-
   bool dark_ = false;
 };
 

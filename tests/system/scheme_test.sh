@@ -35,7 +35,9 @@ tell color-scheme 1
 until_there 2000 "$dark" $ground
 until_there 200 '#CC3399' $chosen
 until_there 8 "$green" 15 20 15 188
-tell nonsense
+tell color-scheme dark                         # what makes no sense is no preference
+tell accent-color 2 -1 7
+tell accent-color 5
 until_there 2000 "$light" $ground
 until_there 200 '#308CC6' $chosen
 until_there 8 "$green" 15 20 15 188

@@ -1,6 +1,6 @@
-// Plays the desktop's settings portal on the session bus. A line on standard input is one deed:
-// "color-scheme 1" sets and tells a scheme, "accent-color 0.9 0.1 0.1" an accent, "nonsense" tells
-// values of the wrong types, "mute" leaves the next questions without an answer.
+// Plays the desktop's settings portal on the session bus. A line on standard input sets and tells a
+// setting: "color-scheme 1" a number, "accent-color 0.9 0.1 0.1" a colour, "color-scheme dark" a
+// text; "mute" leaves the next questions without an answer.
 
 #include <QCoreApplication>
 #include <QDBusArgument>
@@ -11,17 +11,20 @@
 #include <QMap>
 #include <QSocketNotifier>
 #include <iostream>
+#include <iterator>
 #include <sstream>
-#include <string>
+#include <vector>
 
 const auto kPath = QStringLiteral("/org/freedesktop/portal/desktop");
-const auto kScheme = QStringLiteral("color-scheme");
-const auto kAccent = QStringLiteral("accent-color");
 
-static QVariant Color(double red, double green, double blue) {
+static QVariant Wrapped(const QVariant& value) { return QVariant::fromValue(QDBusVariant(value)); }
+
+static QVariant ValueOf(const std::vector<double>& numbers) {
+  if (numbers.empty()) return QStringLiteral("a text");
+  if (numbers.size() == 1) return static_cast<uint>(numbers[0]);
   QDBusArgument color;
   color.beginStructure();
-  color << red << green << blue;
+  for (const double part : numbers) color << part;
   color.endStructure();
   return QVariant::fromValue(color);
 }
@@ -31,41 +34,27 @@ class Portal final : public QDBusVirtualObject {
   QString introspect(const QString&) const override { return {}; }
 
   bool handleMessage(const QDBusMessage& question, const QDBusConnection& bus) override {
-    if (question.member() != QLatin1String("Read")) return false;
+    if (mute_) return true;
     const QString key = question.arguments().value(1).toString();
     // What is read comes in a variant of its own.
-    const QVariant answer = QVariant::fromValue(QDBusVariant(values_.value(key)));
-    if (mute_) return true;
     return bus.send(values_.contains(key)
-                        ? question.createReply(QVariant::fromValue(QDBusVariant(answer)))
+                        ? question.createReply(Wrapped(Wrapped(values_[key])))
                         : question.createErrorReply(QDBusError::InvalidArgs, key));
   }
 
   void Do(std::istringstream line) {
-    std::string deed;
-    line >> deed;
-    mute_ = deed == "mute";
-    if (deed == "nonsense") {
-      Tell(kScheme, QStringLiteral("very dark"));
-      Tell(kAccent, Color(2, -1, 7));
-      Tell(kAccent, 5);
-    } else if (uint scheme = 0; deed == "color-scheme" && line >> scheme) {
-      Tell(kScheme, scheme);
-    } else if (double r = 0, g = 0, b = 0; deed == "accent-color" && line >> r >> g >> b) {
-      Tell(kAccent, Color(r, g, b));
-    }
-  }
-
- private:
-  void Tell(const QString& key, const QVariant& value) {
-    values_[key] = value;
+    std::string word;
+    line >> word;
+    mute_ = word == "mute";
+    const auto key = QString::fromStdString(word);
+    values_[key] = ValueOf({std::istream_iterator<double>(line), {}});
     QDBusMessage signal = QDBusMessage::createSignal(
         kPath, QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("SettingChanged"));
-    signal << QStringLiteral("org.freedesktop.appearance") << key
-           << QVariant::fromValue(QDBusVariant(value));
+    signal << QStringLiteral("org.freedesktop.appearance") << key << Wrapped(values_[key]);
     QDBusConnection::sessionBus().send(signal);
   }
 
+ private:
   QMap<QString, QVariant> values_;
   bool mute_ = false;
 };
@@ -74,10 +63,8 @@ int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   Portal portal;
   QDBusConnection bus = QDBusConnection::sessionBus();
-  if (!bus.registerVirtualObject(kPath, &portal) ||
-      !bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"))) {
-    return EXIT_FAILURE;
-  }
+  const bool there = bus.registerVirtualObject(kPath, &portal) &&
+                     bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
   QSocketNotifier input(0, QSocketNotifier::Read);
   QObject::connect(&input, &QSocketNotifier::activated, &portal, [&portal] {
     std::string line;
@@ -85,6 +72,6 @@ int main(int argc, char** argv) {
     portal.Do(std::istringstream(line));
     std::cout << "done" << std::endl;
   });
-  std::cout << "ready" << std::endl;
+  std::cout << (there ? "ready" : "not there") << std::endl;
   return QCoreApplication::exec();
 }
