@@ -68,9 +68,7 @@ TEST(Checker, ReportsAnErrorExactlyForWhatStopsTheLoading) {
   int loaded = 0;
   for (int round = 0; round < 1000; ++round) {
     std::string bytes = "Bank,Scale\nRules\n";
-    for (auto count = random() % 12; count > 0; --count) {
-      bytes += pieces[random() % std::size(pieces)];
-    }
+    for (auto n = random() % 12; n > 0; --n) bytes += pieces[random() % std::size(pieces)];
     folder.Write("library.csv", bytes);
     const auto [status, report] = Check(path);
     ASSERT_EQ(status != 2, Loads(path)) << check::Quoted(bytes) << report;

@@ -122,6 +122,7 @@ TEST_F(Screen, RowsAreChosenByKeysAndLetGoByMouse) {
     QtHand::Press(list, key);
     return window_->lbContaining()->ListIndex();
   };
+  list.setFocus();
   EXPECT_EQ(row_after(Qt::Key_Down), 0);
   EXPECT_EQ(row_after(Qt::Key_Down), 1);
   EXPECT_EQ(row_after(Qt::Key_End), 47);

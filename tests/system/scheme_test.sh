@@ -37,6 +37,9 @@ until_there 200 '#CC3399' $chosen
 until_there 8 "$green" 15 20 15 188
 tell color-scheme dark                         # what makes no sense is no preference
 tell accent-color 2 -1 7
+until_there 200 '#308CC6' $chosen
+tell accent-color 0.8 0.2 0.6
+until_there 200 '#CC3399' $chosen
 tell accent-color 5
 until_there 2000 "$light" $ground
 until_there 200 '#308CC6' $chosen
