@@ -75,22 +75,22 @@ class String {
 
   bool IsShort() const noexcept { return size_ <= kShort; }
   void Hold(Bytes* bytes, std::uint32_t offset) noexcept {
-    std::memcpy(held_.data(), &bytes, sizeof bytes);
-    std::memcpy(held_.data() + sizeof bytes, &offset, sizeof offset);
+    std::memcpy(held_.data(), &bytes, sizeof(void*));
+    std::memcpy(held_.data() + sizeof(void*), &offset, sizeof offset);
   }
   Bytes* Shared() const noexcept {
     Bytes* bytes = nullptr;
-    std::memcpy(&bytes, held_.data(), sizeof bytes);
+    std::memcpy(&bytes, held_.data(), sizeof(void*));
     return bytes;
   }
   std::uint32_t Offset() const noexcept {
     std::uint32_t offset = 0;
-    std::memcpy(&offset, held_.data() + sizeof(Bytes*), sizeof offset);
+    std::memcpy(&offset, held_.data() + sizeof(void*), sizeof offset);
     return offset;
   }
 
   /// A short text itself; of a long one, the bytes that it shares and where it begins in them.
-  alignas(Bytes*) std::array<char, kShort> held_{};
+  alignas(void*) std::array<char, kShort> held_{};
   std::uint32_t size_ = 0;
 };
 
