@@ -28,7 +28,8 @@ std::size_t FindAll(std::string_view text, char byte, std::array<std::size_t, kS
   std::size_t at = 0;
   if constexpr (std::endian::native == std::endian::little) {
     constexpr std::uint64_t kLowBits = 0x7f7f7f7f7f7f7f7f;
-    const std::uint64_t wanted = 0x0101010101010101 * static_cast<unsigned char>(byte);
+    const std::uint64_t wanted =
+        std::uint64_t{0x0101010101010101} * static_cast<unsigned char>(byte);
     for (; at + sizeof wanted <= text.size(); at += sizeof wanted) {
       std::uint64_t eight = 0;
       std::memcpy(&eight, text.data() + at, sizeof eight);
