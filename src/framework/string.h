@@ -1,9 +1,11 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -96,13 +98,17 @@ class String {
 
 template <class Write>
 String String::Written(std::size_t size, const Write& write) {
+  const std::size_t room = std::max(size, kShort + 1);
   String whole;
-  whole.Hold(Allocate(size), 0);
-  whole.size_ = static_cast<std::uint32_t>(size);
-  const std::size_t written = write(whole.Shared()->Text());
-  // What is mostly empty is not kept: the bytes may be held for long.
-  if (written < size / 2) return whole.View().substr(0, written);
-  return {whole, 0, written};
+  whole.Hold(Allocate(room), 0);
+  whole.size_ = static_cast<std::uint32_t>(room);
+  const String text(whole, 0, write(whole.Shared()->Text()));
+  if (text.size_ >= size / 2) return text;
+  try {
+    return text.View();  // what is mostly empty is not kept: the bytes may be held for long
+  } catch (const std::bad_alloc&) {
+    return text;
+  }
 }
 
 /// Two texts are the same to the last byte, or two values are equal. This is what a property asks

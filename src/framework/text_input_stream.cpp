@@ -25,6 +25,13 @@ ssize_t ReadSome(int file, char* to, std::size_t size) {
   return count;
 }
 
+/// The bytes before the first line end; all of them when there is none.
+std::size_t LineSize(std::string_view text, bool has_returns) {
+  if (!has_returns) return std::min(text.find('\n'), text.size());
+  const auto end = std::ranges::find_if(text, [](char c) { return c == '\n' || c == '\r'; });
+  return static_cast<std::size_t>(end - text.begin());
+}
+
 }  // namespace
 
 Ref<TextInputStream> TextInputStream::Open(const Ref<FolderItem>& item) {
@@ -45,8 +52,7 @@ String TextInputStream::ReadLine() {
   bool ended = false;
   while (!ended && Ready()) {
     const std::string_view rest = block_.View().substr(position_);
-    std::size_t size = std::min(rest.find('\n'), rest.size());
-    if (has_returns_) size = std::min(rest.substr(0, size).find('\r'), size);
+    const std::size_t size = LineSize(rest, has_returns_);
     ended = size < rest.size();
     if (ended && head.empty()) {
       line = String(block_, position_, size);

@@ -23,7 +23,7 @@ class TextInputStream final : public Object {
   /// with LastErrorCode as ErrorNumber if reading failed and UseIOExceptions is on.
   String ReadLine();
   /// True as soon as the last line has been read, also when the file ends in a line end. It raises
-  /// nothing: a failure that it runs into is the next ReadLine's.
+  /// no IOException: a failure that it runs into is the next ReadLine's.
   bool EOF_();
   /// Lets go of the file; what is left of it is not read. Closing twice is no error.
   void Close();

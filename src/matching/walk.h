@@ -5,17 +5,17 @@
 namespace matching {
 
 /// One walk through a library, in its order: calls exact with each scale that is the mask's notes,
-/// and containing with each that holds them all and more; neither may change the library. A nil one
-/// counts as empty.
+/// and containing with each that holds them all and more. A nil library counts as empty.
 template <class Exact, class Containing>
 void Walk(const pitch::Scales& scales, std::int64_t mask, const Exact& exact,
           const Containing& containing) {
   if (!scales) return;
-  for (const framework::Ref<pitch::TScale>& scale : scales._Items()) {
-    if (scale->Equivalent(mask)) [[unlikely]]
-      exact(*scale);
-    if (scale->ContainsAll(mask)) [[unlikely]]
-      containing(*scale);
+  for (std::size_t i = 0; i < scales._Items().size(); ++i) {
+    const pitch::TScale& scale = *scales._Items()[i];
+    if (scale.Equivalent(mask)) [[unlikely]]
+      exact(scale);
+    if (scale.ContainsAll(mask)) [[unlikely]]
+      containing(scale);
   }
 }
 

@@ -103,7 +103,7 @@ void ControlPeer::Look() {
   font.setBold(control_->Bold());
   font.setItalic(control_->Italic());
   font.setUnderline(control_->Underline());
-  if (font != widget_->font()) widget_->setFont(font);
+  widget_->setFont(font);
 }
 
 void ControlPeer::Describe() {

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "framework/application.h"
+#include "framework/runtime.h"
 #include "toolkit/qt/appearance.h"
 #include "toolkit/qt/native_window.h"
 #include "toolkit/qt/outline_style.h"
@@ -70,14 +71,15 @@ void QtToolkit::Initialise() {
   // The window says itself when the program ends.
   QApplication::setQuitOnLastWindowClosed(false);
   new Appearance(application_.get());
+  // The pictures are read by the first event loop, of a message box or the run, not before.
+  QMetaObject::invokeMethod(
+      application_.get(), [] { _RunEvent([] { QApplication::setWindowIcon(Icon()); }); },
+      Qt::QueuedConnection);
 }
 
 std::unique_ptr<WindowPeer> QtToolkit::Show(const Ref<Window>& window) {
   auto native = std::make_unique<NativeWindow>(window);
   native->show();
-  // The pictures are read while the window comes up, not before.
-  QMetaObject::invokeMethod(
-      native.get(), [] { QApplication::setWindowIcon(Icon()); }, Qt::QueuedConnection);
   return native;
 }
 
