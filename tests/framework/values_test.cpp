@@ -24,6 +24,16 @@ TEST_F(Values, AreKeptByReferencesAndNotByWeakOnes) {
   EXPECT_FALSE(weak->Value());
 }
 
+TEST_F(Values, HoldATextThatWasWrittenInPlace) {
+  for (const std::size_t room : {0U, 8U, 12U, 13U, 100U}) {
+    const auto text = String::Written(room, [&](char* to) {
+      std::fill_n(to, room, 'x');
+      return room;
+    });
+    EXPECT_EQ(text.View(), std::string(room, 'x'));
+  }
+}
+
 TEST_F(Values, RaiseWhenThereIsNoneToGiveOut) {
   EXPECT_EQ(Reported([] { *Ref<Thing>(); }),
             "failure NilObjectException: A nil reference was used: Thing (error number 0)");
