@@ -102,7 +102,7 @@ String String::Written(std::size_t size, const Write& write) {
   String whole;
   whole.Hold(Allocate(room), 0);
   whole.size_ = static_cast<std::uint32_t>(room);
-  const String text(whole, 0, write(whole.Shared()->Text()));
+  String text(whole, 0, write(whole.Shared()->Text()));
   if (text.size_ >= size / 2) return text;
   try {
     return text.View();  // what is mostly empty is not kept: the bytes may be held for long
