@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "framework/array.h"
+#include "framework/pool.h"
 #include "framework/string.h"
 
 namespace pitch {
@@ -10,6 +11,10 @@ namespace pitch {
 /// One named scale of the library. Its Constructor fills it once; nothing changes it after that.
 class TScale final : public framework::Object {
  public:
+  // Side by side in memory: a pass goes through all records, up to twelve times.
+  static void* operator new(std::size_t) { return Room().Take(); }
+  static void operator delete(void* room) { Room().GiveBack(room); }
+
   /// Takes the fields of one line: bank, name, and for the twelve positions "TRUE" or anything
   /// else, which means that the note is not in the scale. More fields are ignored. Raises
   /// OutOfBoundsException at the first field that is missing.
@@ -29,8 +34,12 @@ class TScale final : public framework::Object {
   const framework::String& Scale() const { return scale_; }
 
  private:
-  std::int32_t notes_ =
-      0;  ///< in the room behind the base: the smaller a record, the faster a pass
+  static framework::Pool<TScale>& Room() {
+    static auto& room = *new framework::Pool<TScale>;
+    return room;
+  }
+
+  std::int32_t notes_ = 0;  ///< fits the room behind the base: small records are passed fast
   framework::String bank_;
   framework::String scale_;
 };

@@ -1,4 +1,7 @@
+#include <set>
+
 #include "framework/cast.h"
+#include "framework/pool.h"
 #include "framework/weak_ref.h"
 #include "support/running.h"
 
@@ -32,6 +35,33 @@ TEST_F(Values, HoldATextThatWasWrittenInPlace) {
     });
     EXPECT_EQ(text.View(), std::string(room, 'x'));
   }
+}
+
+TEST_F(Values, HaveRoomOfTheirOwnInAPool) {
+  struct Large {
+    std::array<std::byte, 5000> bytes;
+  };
+  Pool<Large> pool;
+  std::set<std::byte*> rooms;
+  const auto take = [&] {
+    auto* const room = static_cast<std::byte*>(pool.Take());
+    std::fill_n(room, sizeof(Large), std::byte{1});
+    const auto next = rooms.insert(room).first;
+    EXPECT_TRUE(next == rooms.begin() || *std::prev(next) + sizeof(Large) <= room);
+    EXPECT_TRUE(std::next(next) == rooms.end() || room + sizeof(Large) <= *std::next(next));
+  };
+  for (int i = 0; i < 100; ++i) take();
+  EXPECT_EQ(rooms.size(), 100);
+  const std::set<std::byte*> given = {*rooms.begin(), *std::next(rooms.begin(), 40)};
+  for (std::byte* const room : given) {
+    rooms.erase(room);
+    pool.GiveBack(room);
+  }
+  take();
+  take();
+  EXPECT_TRUE(std::ranges::includes(rooms, given));
+  take();
+  EXPECT_EQ(rooms.size(), 101);
 }
 
 TEST_F(Values, RaiseWhenThereIsNoneToGiveOut) {
