@@ -42,7 +42,7 @@ std::optional<QColor> ColorFrom(const QVariant& value) {
 SettingsPortal::SettingsPortal(QObject* parent) : QObject(parent) {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
-  bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
+  bus.connect(QString(), kPath, kInterface, QStringLiteral("SettingChanged"), this,
               SLOT(SettingChanged(QDBusMessage)));
   Ask(kScheme);
   Ask(kAccent);
