@@ -11,10 +11,16 @@ import sys
 
 # What a ratio may be, and what some times may be in seconds.
 WANTED = {"Search": 2.0, "Pass": 2.0, "Load": 3.0, "Screen": 1.3, "Start": 1.1, "StartOnBus": 1.1}
-LIMITS = {("Screen", "0"): 0.016, ("Screen", "50000"): 0.3, ("Scroll", "50000"): 0.3}
+LIMITS = {
+    ("Screen", "0"): 0.016,
+    ("Screen", "5000"): 0.016,
+    ("Screen", "50000"): 0.3,
+    ("Scroll", "50000"): 0.3,
+}
 WANTED_MEMORY = 1.1
-# Its lines are shorter than the made-up ones, with as many fields: no more is asked than of those.
-NOT_HELD = {("Load", "0")}
+# The lines of the library that ships are shorter than the made-up ones, with as many fields. With
+# more records than ship, the screen shows a pass beside a baseline whose rows lie ready.
+NOT_HELD = {("Load", "0"), ("Screen", "5000"), ("Screen", "50000")}
 UNITS = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3}
 LIBRARIES = {"0": "shipped"}
 ANSWERS = {"0": "smallest", "1": "median", "2": "largest"}
