@@ -139,8 +139,17 @@ void StartOnBus(benchmark::State& state) { StartOf(state, PROGRAM, {}); }
 void StartOnBusBare(benchmark::State& state) { StartOf(state, BARE_WINDOW, {}); }
 
 BENCHMARK(Start)->UseManualTime()->Iterations(4)->Repetitions(25)->Unit(benchmark::kMillisecond);
-BENCHMARK(StartBare)->UseManualTime()->Iterations(4)->Repetitions(25)->Unit(benchmark::kMillisecond);
-BENCHMARK(StartOnBus)->UseManualTime()->Iterations(4)->Repetitions(25)->Unit(benchmark::kMillisecond);
-BENCHMARK(StartOnBusBare)->UseManualTime()->Iterations(4)->Repetitions(25)->Unit(benchmark::kMillisecond);
+BENCHMARK(StartBare)->UseManualTime()->Iterations(4)->Repetitions(25)->Unit(
+    benchmark::kMillisecond);
+BENCHMARK(StartOnBus)
+    ->UseManualTime()
+    ->Iterations(4)
+    ->Repetitions(25)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(StartOnBusBare)
+    ->UseManualTime()
+    ->Iterations(4)
+    ->Repetitions(25)
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
