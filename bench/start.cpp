@@ -138,18 +138,13 @@ void StartBare(benchmark::State& state) { StartOf(state, BARE_WINDOW, kNoBus); }
 void StartOnBus(benchmark::State& state) { StartOf(state, PROGRAM, {}); }
 void StartOnBusBare(benchmark::State& state) { StartOf(state, BARE_WINDOW, {}); }
 
-BENCHMARK(Start)->UseManualTime()->Iterations(4)->Repetitions(25)->Unit(benchmark::kMillisecond);
-BENCHMARK(StartBare)->UseManualTime()->Iterations(4)->Repetitions(25)->Unit(
-    benchmark::kMillisecond);
-BENCHMARK(StartOnBus)
-    ->UseManualTime()
-    ->Iterations(4)
-    ->Repetitions(25)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(StartOnBusBare)
-    ->UseManualTime()
-    ->Iterations(4)
-    ->Repetitions(25)
-    ->Unit(benchmark::kMillisecond);
+void EachStartByItself(benchmark::internal::Benchmark* start) {
+  start->UseManualTime()->Iterations(1)->Repetitions(100)->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(Start)->Apply(EachStartByItself);
+BENCHMARK(StartBare)->Apply(EachStartByItself);
+BENCHMARK(StartOnBus)->Apply(EachStartByItself);
+BENCHMARK(StartOnBusBare)->Apply(EachStartByItself);
 
 }  // namespace
