@@ -42,6 +42,7 @@ std::optional<QColor> ColorFrom(const QVariant& value) {
 SettingsPortal::SettingsPortal(QObject* parent) : QObject(parent) {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
+  // Of any sender: to hear one by its name only, Qt would ask the bus who that is, and wait.
   bus.connect(QString(), kPath, kInterface, QStringLiteral("SettingChanged"), this,
               SLOT(SettingChanged(QDBusMessage)));
   Ask(kScheme);
