@@ -77,10 +77,11 @@ class Screen {
   const std::string& Display() const { return display_; }
 
   /// Until something shows. It rests between its looks, for the process and the server need both
-  /// processors. Raises std::runtime_error when the process has ended without.
+  /// processors. Raises std::runtime_error when none comes up.
   void AwaitWindow(pid_t process) const {
     for (long look = 1; Sum() == empty_; ++look) {
-      if (look % 100 == 0 && waitpid(process, nullptr, WNOHANG) != 0) {
+      const bool ended = look % 100 == 0 && waitpid(process, nullptr, WNOHANG) != 0;
+      if (ended || look > 100000) {
         throw std::runtime_error("no window came up");
       }
       std::this_thread::sleep_for(100us);
