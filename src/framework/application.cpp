@@ -3,9 +3,7 @@
 #include <unistd.h>
 
 #include <climits>
-#include <new>
 
-#include "framework/runtime.h"
 #include "framework/text.h"
 #include "framework/ui_trap.h"
 
@@ -14,29 +12,11 @@ namespace framework {
 namespace {
 
 bool supports_hidpi = false;
-void CallWithMemoryFailures(const std::function<void()>& function) {
-  try {
-    function();
-  } catch (const std::bad_alloc&) {
-    RuntimeRaiseException(OutOfMemoryException("The system has no memory left."));
-  }
-}
 
 }  // namespace
 
 void Application::_SetSupportsHiDPI(bool value) { supports_hidpi = value; }
 bool Application::_SupportsHiDPI() { return supports_hidpi; }
-
-void Application::_CallFunctionWithExceptionHandling(const std::function<void()>& function) {
-  try {
-    CallWithMemoryFailures(function);
-  } catch (const EndException&) {
-  } catch (const ThreadEndException&) {
-  } catch (const RuntimeException& failure) {
-    const Ref<Application> app = getAppObject();
-    if (!app || !app->Event_UnhandledException(failure)) UnhandledException(failure);
-  }
-}
 
 Ref<FolderItem> Application::ExecutableFile() const {
   char path[PATH_MAX];

@@ -1,18 +1,16 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
-#include <thread>
 
-#include "framework/failures.h"
 #include "framework/folder_item.h"
 #include "framework/menu.h"
 #include "framework/notifications.h"
+#include "framework/run_loop.h"
 
 namespace framework {
 
 /// The program as a whole. There is one object of it, which _RuntimeRegisterAppObject makes known.
-class Application : public _MacOSDistributedNotifications::iNotify {
+class Application : public _MacOSDistributedNotifications::iNotify, public RunLoopApplication {
  public:
   /// Every application object hears of the system's appearance from its allocation on.
   Application() { _MacOSDistributedNotifications::Register(*this); }
@@ -21,15 +19,6 @@ class Application : public _MacOSDistributedNotifications::iNotify {
   /// application object exists.
   static void _SetSupportsHiDPI(bool value);
   static bool _SupportsHiDPI();
-
-  /// The running thread; nullptr on the main thread.
-  static const std::thread::id* CurrentThread();
-
-  /// Runs one unit of work under the application-level handling. An EndException and a
-  /// ThreadEndException are dropped. Any other RuntimeException goes to Event_UnhandledException,
-  /// and if that does not take it, to UnhandledException. Memory that the system refuses counts as
-  /// OutOfMemoryException. A failure that is no RuntimeException goes on to the caller.
-  static void _CallFunctionWithExceptionHandling(const std::function<void()>& function);
 
   /// The running program's file, with every link resolved; nil if the system does not tell.
   virtual Ref<FolderItem> ExecutableFile() const;
@@ -57,8 +46,6 @@ class Application : public _MacOSDistributedNotifications::iNotify {
                                  String short_version, String package_info);
 
  protected:
-  /// The UnhandledException event: true when the failure is dealt with.
-  virtual bool Event_UnhandledException(const RuntimeException&) { return false; }
   /// The AppearanceChanged event.
   virtual void Event_AppearanceChanged() {}
 

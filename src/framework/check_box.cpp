@@ -1,6 +1,6 @@
 #include "framework/check_box.h"
 
-#include "framework/runtime.h"
+#include "framework/run_loop.h"
 
 namespace framework {
 

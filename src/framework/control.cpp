@@ -2,7 +2,6 @@
 
 #include <charconv>
 
-#include "framework/application.h"
 #include "framework/failures.h"
 #include "framework/window.h"
 

@@ -9,19 +9,17 @@
 
 namespace framework {
 
-class Control;
-
 /// A handler bound to an object, as an event keeps it. It does not keep the object alive; once that
 /// has gone, a call does nothing.
 class Delegate final : public Object {
  public:
-  /// Calls the handler of the target with the control that raised the event.
-  using Stub = void (*)(Object& target, const Ref<Control>& sender);
+  /// Calls the handler of the target with the object that raised the event.
+  using Stub = void (*)(Object& target, const Ref<Object>& sender);
 
   Delegate(Stub stub, const Ref<Object>& target, std::string_view signature)
       : stub_(stub), target_(RuntimeNewObject<WeakRef>(target)), signature_(signature) {}
 
-  void Invoke(const Ref<Control>& sender) const {
+  void Invoke(const Ref<Object>& sender) const {
     if (const Ref<Object> target = target_->Value()) stub_(*target, sender);
   }
   /// The handler's arguments in text form: "( Listbox )".
@@ -45,7 +43,7 @@ struct HandlerTraits<void (T::*)(const Ref<C>&)> {
 
 }  // namespace detail
 
-/// A delegate on a method of target that takes the control which raised the event. The sender is
+/// A delegate on a method of target that takes the object which raised the event. The sender is
 /// cast to the class that the method names, which raises IllegalCastException if it is none.
 template <auto kHandler>
 Ref<Delegate> RuntimeCreateDelegate(
@@ -53,7 +51,7 @@ Ref<Delegate> RuntimeCreateDelegate(
     std::string_view signature) {
   using Traits = detail::HandlerTraits<std::remove_cv_t<decltype(kHandler)>>;
   return RuntimeNewObject<Delegate>(
-      [](Object& object, const Ref<Control>& sender) {
+      [](Object& object, const Ref<Object>& sender) {
         (static_cast<typename Traits::Target&>(object).*
          kHandler)(RuntimeCheckCast<typename Traits::Sender>(sender));
       },

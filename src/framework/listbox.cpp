@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "framework/failures.h"
-#include "framework/runtime.h"
+#include "framework/run_loop.h"
 
 namespace framework {
 

@@ -1,7 +1,7 @@
 #include "framework/menu.h"
 
 #include "framework/failures.h"
-#include "framework/runtime.h"
+#include "framework/run_loop.h"
 #include "framework/text.h"
 #include "framework/toolkit.h"
 

@@ -1,6 +1,6 @@
 #include "framework/popup_menu.h"
 
-#include "framework/runtime.h"
+#include "framework/run_loop.h"
 #include "framework/text.h"
 
 namespace framework {

@@ -2,7 +2,7 @@
 
 #include <map>
 
-#include "framework/runtime.h"
+#include "framework/run_loop.h"
 #include "framework/toolkit.h"
 #include "framework/weak_ref.h"
 

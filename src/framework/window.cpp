@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "framework/application.h"
-#include "framework/runtime.h"
+#include "framework/run_loop.h"
 #include "framework/text.h"
 #include "framework/toolkit.h"
 
@@ -66,9 +65,10 @@ void Window::Constructor() {
   CreateControls();
   Windows().push_back(self);
   for (const Ref<Control>& control : _Controls()) {
-    Application::_CallFunctionWithExceptionHandling([&] { control->_Raise(Control::kOpen); });
+    RunLoopApplication::_CallFunctionWithExceptionHandling(
+        [&] { control->_Raise(Control::kOpen); });
   }
-  Application::_CallFunctionWithExceptionHandling([this] { Event_Open(); });
+  RunLoopApplication::_CallFunctionWithExceptionHandling([this] { Event_Open(); });
   opened_ = true;
   if (Visible()) peer_ = Toolkit::Current().Show(self);
 }
@@ -97,7 +97,7 @@ std::vector<Ref<Control>> Window::_Controls() const {
 
 void Window::_Finish(const Ref<RectControl>& control) {
   if (!opened_) return;
-  Application::_CallFunctionWithExceptionHandling([&] { control->_Raise(Control::kOpen); });
+  RunLoopApplication::_CallFunctionWithExceptionHandling([&] { control->_Raise(Control::kOpen); });
   if (peer_ != nullptr) peer_->Added(control);
 }
 

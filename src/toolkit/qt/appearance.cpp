@@ -5,7 +5,7 @@
 
 #include "framework/local_object_runtime.h"
 #include "framework/notifications.h"
-#include "framework/runtime.h"
+#include "framework/run_loop.h"
 
 namespace toolkit::qt {
 
