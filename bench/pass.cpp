@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "framework/text.h"
+#include "framework/values/text.h"
 #include "libraries.h"
 #include "matching/walk.h"
 #include "pitch/mask.h"

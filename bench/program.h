@@ -3,8 +3,8 @@
 #include <memory>
 #include <string_view>
 
-#include "framework/runtime.h"
-#include "framework/toolkit.h"
+#include "framework/application/runtime.h"
+#include "framework/events/toolkit.h"
 #include "library/load.h"
 #include "shell/start_up.h"
 #include "support/test_bundle.h"

@@ -1,16 +1,16 @@
-#include "framework/block.h"
+#include "framework/controls/block.h"
 
 #include <cstring>
 #include <map>
 
-#include "framework/check_box.h"
-#include "framework/failures.h"
-#include "framework/label.h"
-#include "framework/listbox.h"
-#include "framework/popup_menu.h"
-#include "framework/runtime.h"
-#include "framework/text.h"
-#include "framework/window.h"
+#include "framework/application/runtime.h"
+#include "framework/controls/check_box.h"
+#include "framework/controls/label.h"
+#include "framework/controls/listbox.h"
+#include "framework/controls/popup_menu.h"
+#include "framework/controls/window.h"
+#include "framework/values/failures.h"
+#include "framework/values/text.h"
 #include "target.h"
 #include "toolkit/memory/memory_toolkit.h"
 #include "window/kinds.h"

@@ -1,5 +1,5 @@
-#include "framework/failures.h"
-#include "framework/text_input_stream.h"
+#include "framework/files/text_input_stream.h"
+#include "framework/values/failures.h"
 #include "scripted_file.h"
 
 // The line reader, on a file that comes in pieces, with interruptions and a failure at its end.

@@ -4,9 +4,9 @@
 #include <filesystem>
 #include <fstream>
 
-#include "framework/failures.h"
-#include "framework/runtime.h"
-#include "framework/special_folder.h"
+#include "framework/application/runtime.h"
+#include "framework/application/special_folder.h"
+#include "framework/values/failures.h"
 #include "scripted_file.h"
 #include "toolkit/memory/memory_toolkit.h"
 

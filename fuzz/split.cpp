@@ -1,6 +1,6 @@
 #include <vector>
 
-#include "framework/text.h"
+#include "framework/values/text.h"
 #include "target.h"
 
 // Split. The first byte says how many of the next are the delimiter; the rest is the text.

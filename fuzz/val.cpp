@@ -1,7 +1,7 @@
 #include <cctype>
 #include <cmath>
 
-#include "framework/text.h"
+#include "framework/values/text.h"
 #include "target.h"
 
 // Val, against C's reading of the characters that make up the number; and back from Str and Bin.

@@ -10,7 +10,7 @@
 
 #include "check/characters.h"
 #include "check/check_line.h"
-#include "framework/text.h"
+#include "framework/values/text.h"
 #include "pitch/tscale.h"
 
 namespace check {

@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "check/fault.h"
-#include "framework/text_input_stream.h"
+#include "framework/files/text_input_stream.h"
 
 namespace check {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "check/characters.h"
-#include "framework/text.h"
+#include "framework/values/text.h"
 #include "pitch/mask.h"
 #include "pitch/note_names.h"
 

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "check/fault.h"
-#include "framework/array.h"
-#include "framework/string.h"
+#include "framework/values/array.h"
+#include "framework/values/string.h"
 
 namespace check {
 

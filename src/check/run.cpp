@@ -6,8 +6,8 @@
 
 #include "check/check_library.h"
 #include "check/check_line.h"
-#include "framework/failures.h"
-#include "framework/folder_item.h"
+#include "framework/files/folder_item.h"
+#include "framework/values/failures.h"
 
 namespace check {
 

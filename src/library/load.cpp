@@ -1,10 +1,10 @@
 #include "library/load.h"
 
-#include "framework/failures.h"
-#include "framework/msg_box.h"
-#include "framework/special_folder.h"
-#include "framework/text.h"
-#include "framework/text_input_stream.h"
+#include "framework/application/special_folder.h"
+#include "framework/events/msg_box.h"
+#include "framework/files/text_input_stream.h"
+#include "framework/values/failures.h"
+#include "framework/values/text.h"
 
 namespace library {
 

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "framework/text.h"
+#include "framework/values/text.h"
 #include "matching/walk.h"
 #include "pitch/mask.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "framework/check_box.h"
-#include "framework/label.h"
-#include "framework/listbox.h"
-#include "framework/popup_menu.h"
+#include "framework/controls/check_box.h"
+#include "framework/controls/label.h"
+#include "framework/controls/listbox.h"
+#include "framework/controls/popup_menu.h"
 #include "pitch/tscale.h"
 
 namespace matching {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/menu.h"
+#include "framework/controls/menu.h"
 
 namespace menu {
 

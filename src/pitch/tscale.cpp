@@ -1,6 +1,6 @@
 #include "pitch/tscale.h"
 
-#include "framework/text.h"
+#include "framework/values/text.h"
 #include "pitch/mask.h"
 
 namespace pitch {

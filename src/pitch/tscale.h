@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "framework/array.h"
-#include "framework/pool.h"
-#include "framework/string.h"
+#include "framework/values/array.h"
+#include "framework/values/pool.h"
+#include "framework/values/string.h"
 
 namespace pitch {
 

@@ -1,6 +1,6 @@
 #include "shell/start_up.h"
 
-#include "framework/runtime.h"
+#include "framework/application/runtime.h"
 #include "menu/main_menu_bar.h"
 #include "shell/app.h"
 #include "window/main_window.h"

@@ -7,7 +7,7 @@
 #include <span>
 #include <string_view>
 
-#include "framework/block.h"
+#include "framework/controls/block.h"
 
 // Makes description blocks while compiling. A row that leaves out a key, has one that its kind does
 // not know or not at that place, or has a value of another type than the key's, does not compile:

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/check_box.h"
-#include "framework/label.h"
+#include "framework/controls/check_box.h"
+#include "framework/controls/label.h"
 
 namespace window {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/control.h"
+#include "framework/controls/control.h"
 #include "window/block_encoder.h"
 
 // The key sequence of each kind of object, with the values that all rows of the kind share.

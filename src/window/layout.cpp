@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "framework/failures.h"
+#include "framework/values/failures.h"
 #include "window/kinds.h"
 
 namespace window::layout {

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "framework/control.h"
+#include "framework/controls/control.h"
 
 // The description blocks of the main window and its controls.
 

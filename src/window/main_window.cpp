@@ -1,6 +1,6 @@
 #include "window/main_window.h"
 
-#include "framework/text.h"
+#include "framework/values/text.h"
 #include "library/load.h"
 #include "matching/compare_scales.h"
 #include "menu/main_menu_bar.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/window.h"
+#include "framework/controls/window.h"
 #include "matching/search_window.h"
 #include "window/control_sets.h"
 

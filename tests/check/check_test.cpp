@@ -5,9 +5,9 @@
 
 #include "check/characters.h"
 #include "check/run.h"
-#include "framework/failures.h"
-#include "framework/text.h"
-#include "framework/text_input_stream.h"
+#include "framework/files/text_input_stream.h"
+#include "framework/values/failures.h"
+#include "framework/values/text.h"
 #include "pitch/tscale.h"
 #include "support/folder.h"
 

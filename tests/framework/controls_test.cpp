@@ -1,6 +1,6 @@
-#include "framework/check_box.h"
-#include "framework/listbox.h"
-#include "framework/window.h"
+#include "framework/controls/check_box.h"
+#include "framework/controls/listbox.h"
+#include "framework/controls/window.h"
 #include "support/running.h"
 
 namespace {

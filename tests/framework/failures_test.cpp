@@ -1,6 +1,6 @@
 #include <thread>
 
-#include "framework/msg_box.h"
+#include "framework/events/msg_box.h"
 #include "support/running.h"
 
 namespace {

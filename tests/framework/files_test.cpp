@@ -2,7 +2,7 @@
 
 #include <cerrno>
 
-#include "framework/text_input_stream.h"
+#include "framework/files/text_input_stream.h"
 #include "support/running.h"
 #include "support/test_bundle.h"
 

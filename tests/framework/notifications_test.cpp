@@ -1,6 +1,6 @@
-#include "framework/notifications.h"
+#include "framework/notifications/notifications.h"
 
-#include "framework/local_object_runtime.h"
+#include "framework/notifications/local_object_runtime.h"
 #include "support/running.h"
 
 namespace {

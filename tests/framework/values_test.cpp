@@ -1,8 +1,8 @@
 #include <set>
 
-#include "framework/cast.h"
-#include "framework/pool.h"
-#include "framework/weak_ref.h"
+#include "framework/values/cast.h"
+#include "framework/values/pool.h"
+#include "framework/values/weak_ref.h"
 #include "support/running.h"
 
 namespace {

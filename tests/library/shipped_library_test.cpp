@@ -6,8 +6,8 @@
 #include <set>
 #include <sstream>
 
-#include "framework/text.h"
-#include "framework/text_input_stream.h"
+#include "framework/files/text_input_stream.h"
+#include "framework/values/text.h"
 #include "pitch/mask.h"
 #include "pitch/tscale.h"
 

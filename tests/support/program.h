@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "framework/runtime.h"
-#include "framework/weak_ref.h"
+#include "framework/application/runtime.h"
+#include "framework/values/weak_ref.h"
 #include "library/load.h"
 #include "shell/start_up.h"
 #include "support/test_bundle.h"

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "framework/runtime.h"
+#include "framework/application/runtime.h"
 #include "toolkit/memory/memory_toolkit.h"
 
 namespace support {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "framework/special_folder.h"
+#include "framework/application/special_folder.h"
 #include "support/folder.h"
 
 namespace support {

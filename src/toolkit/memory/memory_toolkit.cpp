@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "framework/window.h"
+#include "framework/controls/window.h"
 
 namespace toolkit::memory {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "framework/toolkit.h"
+#include "framework/events/toolkit.h"
 
 namespace toolkit::memory {
 

@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <QEvent>
 
-#include "framework/local_object_runtime.h"
-#include "framework/notifications.h"
-#include "framework/run_loop.h"
+#include "framework/events/run_loop.h"
+#include "framework/notifications/local_object_runtime.h"
+#include "framework/notifications/notifications.h"
 
 namespace toolkit::qt {
 

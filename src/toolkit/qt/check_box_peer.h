@@ -2,7 +2,7 @@
 
 #include <QCheckBox>
 
-#include "framework/check_box.h"
+#include "framework/controls/check_box.h"
 #include "toolkit/qt/control_peer.h"
 
 namespace toolkit::qt {

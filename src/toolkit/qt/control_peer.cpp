@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "framework/window.h"
+#include "framework/controls/window.h"
 #include "toolkit/qt/check_box_peer.h"
 #include "toolkit/qt/condensed.h"
 #include "toolkit/qt/label_peer.h"

@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <memory>
 
-#include "framework/control.h"
+#include "framework/controls/control.h"
 
 namespace toolkit::qt {
 

@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-#include "framework/label.h"
+#include "framework/controls/label.h"
 #include "toolkit/qt/control_peer.h"
 
 namespace toolkit::qt {

@@ -2,7 +2,7 @@
 
 #include <QAbstractTableModel>
 
-#include "framework/listbox.h"
+#include "framework/controls/listbox.h"
 
 namespace toolkit::qt {
 

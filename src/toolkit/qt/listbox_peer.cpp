@@ -4,7 +4,7 @@
 #include <QMetaObject>
 #include <QScopedValueRollback>
 
-#include "framework/text.h"
+#include "framework/values/text.h"
 
 namespace toolkit::qt {
 

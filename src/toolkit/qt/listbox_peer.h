@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/listbox.h"
+#include "framework/controls/listbox.h"
 #include "toolkit/qt/control_peer.h"
 #include "toolkit/qt/list_model.h"
 #include "toolkit/qt/list_view.h"

@@ -2,7 +2,7 @@
 
 #include <QMenuBar>
 
-#include "framework/menu.h"
+#include "framework/controls/menu.h"
 
 namespace toolkit::qt {
 

@@ -4,7 +4,7 @@
 #include <QMenuBar>
 #include <algorithm>
 
-#include "framework/label.h"
+#include "framework/controls/label.h"
 #include "toolkit/qt/label_peer.h"
 #include "toolkit/qt/menu_builder.h"
 #include "toolkit/qt/text.h"

@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "framework/window.h"
+#include "framework/controls/window.h"
 #include "toolkit/qt/control_peer.h"
 
 namespace toolkit::qt {

@@ -2,7 +2,7 @@
 
 #include <QComboBox>
 
-#include "framework/popup_menu.h"
+#include "framework/controls/popup_menu.h"
 #include "toolkit/qt/control_peer.h"
 
 namespace toolkit::qt {

@@ -9,8 +9,8 @@
 #include <iostream>
 #include <utility>
 
-#include "framework/application.h"
-#include "framework/runtime.h"
+#include "framework/application/application.h"
+#include "framework/application/runtime.h"
 #include "toolkit/qt/appearance.h"
 #include "toolkit/qt/native_window.h"
 #include "toolkit/qt/outline_style.h"

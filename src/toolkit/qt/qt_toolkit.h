@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "framework/toolkit.h"
+#include "framework/events/toolkit.h"
 
 namespace toolkit::qt {
 

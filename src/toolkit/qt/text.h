@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "framework/string.h"
+#include "framework/values/string.h"
 
 namespace toolkit::qt {
 

@@ -1,0 +1,62 @@
+#include "framework/controls/menu.h"
+
+#include "framework/events/run_loop.h"
+#include "framework/events/toolkit.h"
+#include "framework/values/failures.h"
+#include "framework/values/text.h"
+
+namespace framework {
+
+void MenuItem::Constructor() { _UITrap(); }
+
+void MenuItem::Append(const Ref<MenuItem>& item) {
+  _UITrap();
+  if (item->has_parent_) RuntimeRaiseException(MenuHasParentException(item->Name()));
+  item->has_parent_ = true;
+  children_.Append(item);
+}
+
+Ref<MenuItem> MenuItem::Child(std::string_view name) const {
+  _UITrap();
+  for (std::int64_t i = 0; i <= children_.LastIndex(); ++i) {
+    if (RuntimeStringCompare(children_[i]->Name(), name) == 0) return children_[i];
+  }
+  return nullptr;
+}
+
+Ref<MenuItem> MenuItem::_Lookup(std::string_view name) const {
+  _UITrap();
+  if (Ref<MenuItem> child = Child(name)) return child;
+  for (std::int64_t i = 0; i <= children_.LastIndex(); ++i) {
+    if (Ref<MenuItem> found = children_[i]->_Lookup(name)) return found;
+  }
+  return nullptr;
+}
+
+void MenuItem::_DisableEntirely() {
+  _UITrap();
+  for (std::int64_t i = 0; i <= children_.LastIndex(); ++i) {
+    children_[i]->Enabled(false);
+    children_[i]->_DisableEntirely();
+  }
+}
+
+void MenuItem::_SelfEnable() {
+  _UITrap();
+  if (AutoEnable() && (HandlesAction() || children_.LastIndex() >= 0)) Enabled(true);
+  for (std::int64_t i = 0; i <= children_.LastIndex(); ++i) children_[i]->_SelfEnable();
+}
+
+void MenuItem::Choose() {
+  if (!Enabled()) return;
+  _RunEvent([this] { Action(); });
+}
+
+bool QuitMenuItem::Action() { return QuitMenuAction(Ref<MenuItem>(this)); }
+
+bool QuitMenuAction(const Ref<MenuItem>&) {
+  Toolkit::Current().Quit();
+  return true;
+}
+
+}  // namespace framework

@@ -1,0 +1,146 @@
+#include "framework/events/run_loop.h"
+
+#include <cxxabi.h>
+
+#include <cstdlib>
+#include <memory>
+#include <new>
+#include <string>
+#include <typeinfo>
+#include <utility>
+
+#include "framework/events/toolkit.h"
+#include "framework/events/ui_trap.h"
+
+namespace framework {
+
+namespace {
+
+/// What the run loop knows between _StartRunLoop and _EndRunLoop.
+struct RunLoop {
+  RunLoopApplication* application = nullptr;
+  ExceptionFunction exception_helper = &_CallFunctionWithExceptionHandling;
+  std::thread::id main_thread;
+  std::exception_ptr escaped;  ///< what left an event and ends the run loop
+  int exit_status = 0;
+};
+
+RunLoop& State() {
+  static auto& state = *new RunLoop;
+  return state;
+}
+
+String Describe(const RuntimeException& exception) {
+  std::string text(exception.ClassName());
+  if (!exception.Message().View().empty()) text.append(": ").append(exception.Message());
+  text.append(" (error number ").append(std::to_string(exception.ErrorNumber())).append(")");
+  return text;
+}
+
+String Describe(const std::exception_ptr& failure) {
+  try {
+    std::rethrow_exception(failure);
+  } catch (const RuntimeException& exception) {
+    return Describe(exception);
+  } catch (const std::exception& exception) {
+    const std::unique_ptr<char, decltype(&std::free)> name(
+        abi::__cxa_demangle(typeid(exception).name(), nullptr, nullptr, nullptr), &std::free);
+    const char* const class_name = name != nullptr ? name.get() : typeid(exception).name();
+    return String(std::string(class_name) + ": " + exception.what());
+  } catch (...) {
+    return "A failure of an unknown class.";
+  }
+}
+
+void CallWithMemoryFailures(const std::function<void()>& function) {
+  try {
+    function();
+  } catch (const std::bad_alloc&) {
+    RuntimeRaiseException(OutOfMemoryException("The system has no memory left."));
+  }
+}
+
+void CallWork(void* work) {
+  RunLoopApplication::_CallFunctionWithExceptionHandling(
+      *static_cast<const std::function<void()>*>(work));
+}
+
+}  // namespace
+
+void _StartRunLoop() {
+  State() = {};
+  State().main_thread = std::this_thread::get_id();
+}
+
+void _SetRunLoopApplication(RunLoopApplication* application) { State().application = application; }
+
+std::exception_ptr _CallFunctionWithExceptionHandling(void (*function)(void*), void* argument) {
+  try {
+    function(argument);
+  } catch (const RuntimeException&) {
+    return std::current_exception();
+  }
+  return nullptr;
+}
+
+void _UITrap() {
+  if (State().application != nullptr && RunLoopApplication::CurrentThread() != nullptr) {
+    RuntimeRaiseException(ThreadAccessingUIException());
+  }
+}
+
+const std::thread::id* RunLoopApplication::CurrentThread() {
+  static thread_local const std::thread::id self = std::this_thread::get_id();
+  return self == State().main_thread ? nullptr : &self;
+}
+
+void RunLoopApplication::_CallFunctionWithExceptionHandling(const std::function<void()>& function) {
+  try {
+    CallWithMemoryFailures(function);
+  } catch (const EndException&) {
+  } catch (const ThreadEndException&) {
+  } catch (const RuntimeException& failure) {
+    RunLoopApplication* const application = State().application;
+    if (application == nullptr || !application->Event_UnhandledException(failure)) {
+      UnhandledException(failure);
+    }
+  }
+}
+
+void _RuntimeSetExceptionHelper(ExceptionFunction function) { State().exception_helper = function; }
+
+void _RuntimeRun() {
+  Toolkit::Current().Run();
+  if (State().escaped != nullptr) {
+    RuntimeReraiseException(std::exchange(State().escaped, nullptr));
+  }
+}
+
+void _RunEvent(const std::function<void()>& work) noexcept {
+  std::exception_ptr failure;
+  try {
+    failure = State().exception_helper(&CallWork, const_cast<std::function<void()>*>(&work));
+  } catch (...) {
+    failure = std::current_exception();
+  }
+  if (failure == nullptr) return;
+  State().escaped = failure;
+  Toolkit::Current().Quit();
+}
+
+void UnhandledException(const RuntimeException& exception) {
+  Toolkit::Current().ReportFailure(Describe(exception));
+}
+
+void _UnhandledException(const std::exception_ptr& exception) {
+  State().exit_status = 1;
+  Toolkit::Current().ReportFailure(Describe(exception));
+}
+
+int _EndRunLoop() {
+  const int status = State().exit_status;
+  State() = {};
+  return status;
+}
+
+}  // namespace framework

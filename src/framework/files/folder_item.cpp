@@ -1,0 +1,61 @@
+#include "framework/files/folder_item.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <string>
+
+#include "framework/files/text_input_stream.h"
+
+namespace framework {
+
+namespace {
+
+/// The path as the system's calls want it. A path with a zero byte inside names nothing.
+std::string SystemPath(const String& path) {
+  std::string text(path.View());
+  return text.find('\0') == std::string::npos ? text : std::string();
+}
+
+}  // namespace
+
+Ref<FolderItem> FolderItem::Child(const String& name) const {
+  const std::string_view folder = path_.View();
+  return GetFolderItem(
+      String(folder.ends_with('/') ? folder : std::string(folder) + '/', name.View()));
+}
+
+bool FolderItem::Exists() const {
+  struct stat status {};
+  return stat(SystemPath(path_).c_str(), &status) == 0;
+}
+
+String FolderItem::Name() const {
+  const std::string_view path = path_.View();
+  return path.substr(path.rfind('/') + 1);
+}
+
+Ref<FolderItem> FolderItem::Parent() const {
+  const std::string_view path = path_.View();
+  const auto slash = path.rfind('/');
+  if (slash == path.npos || path.size() == 1) return nullptr;
+  return GetFolderItem(slash == 0 ? path.substr(0, 1) : path.substr(0, slash));
+}
+
+Ref<FolderItem> GetFolderItem(const String& path) {
+  if (path.View().empty()) return nullptr;
+  return RuntimeNewObject<FolderItem>(path);
+}
+
+Ref<TextInputStream> FolderItemOpenTextFile(FolderItem& item) {
+  // Without O_NONBLOCK, opening a pipe that no one writes to would hang the program.
+  const int file = open(SystemPath(item.path_).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (file < 0) {
+    item.last_error_code_ = errno;
+    return nullptr;
+  }
+  return RuntimeNewObject<TextInputStream>(file);
+}
+
+}  // namespace framework

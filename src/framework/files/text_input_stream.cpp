@@ -1,0 +1,113 @@
+#include "framework/files/text_input_stream.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <string>
+#include <string_view>
+
+#include "framework/values/failures.h"
+
+namespace framework {
+
+namespace {
+
+constexpr std::size_t kBlock = 65536;
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+/// read() that goes on when a signal came between.
+ssize_t ReadSome(int file, char* to, std::size_t size) {
+  ssize_t count = 0;
+  do {
+    count = read(file, to, size);
+  } while (count < 0 && errno == EINTR);
+  return count;
+}
+
+/// The bytes before the first line end; all of them when there is none.
+std::size_t LineSize(std::string_view text, bool has_returns) {
+  if (!has_returns) return std::min(text.find('\n'), text.size());
+  const auto end = std::ranges::find_if(text, [](char c) { return c == '\n' || c == '\r'; });
+  return static_cast<std::size_t>(end - text.begin());
+}
+
+}  // namespace
+
+Ref<TextInputStream> TextInputStream::Open(const Ref<FolderItem>& item) {
+  if (!item) RuntimeRaiseException(NilObjectException());
+  Ref<TextInputStream> stream = FolderItemOpenTextFile(*item);
+  if (!stream) {
+    IOException failure;
+    failure.ErrorNumber(item->LastErrorCode());
+    RuntimeRaiseException(failure);
+  }
+  stream->UseIOExceptions(true);
+  return stream;
+}
+
+String TextInputStream::ReadLine() {
+  String line;
+  std::string head;  // what earlier blocks have of the line
+  bool ended = false;
+  while (!ended && Ready()) {
+    const std::string_view rest = block_.View().substr(position_);
+    const std::size_t size = LineSize(rest, has_returns_);
+    ended = size < rest.size();
+    if (ended && head.empty()) {
+      line = String(block_, position_, size);
+    } else {
+      head.append(rest.substr(0, size));
+    }
+    position_ += size;
+    if (!ended) continue;
+    ++position_;
+    if (rest[size] == '\r' && Ready() && block_.View()[position_] == '\n') ++position_;
+  }
+  if (!head.empty()) line = head;
+  // A line that came whole is given out; a failure met behind it waits for the next call.
+  last_error_code_ = ended ? 0 : std::exchange(pending_error_, 0);
+  CheckForError();
+  return line;
+}
+
+bool TextInputStream::EOF_() { return !Ready() && pending_error_ == 0; }
+
+void TextInputStream::Close() {
+  if (file_ >= 0) close(file_);
+  file_ = -1;
+  position_ = block_.View().size();
+}
+
+bool TextInputStream::Ready() {
+  if (position_ == block_.View().size() && pending_error_ == 0 && file_ >= 0) Fill();
+  return position_ < block_.View().size();
+}
+
+void TextInputStream::Fill() {
+  // The file's first bytes may come in pieces, from a file system over a network say: a byte-order
+  // mark is only seen whole, and with something behind it.
+  const std::size_t wanted = started_ ? 1 : kByteOrderMark.size() + 1;
+  block_ = String::Written(kBlock, [&](char* to) {
+    std::size_t size = 0;
+    ssize_t count = 1;
+    while (size < wanted && count > 0) {
+      count = ReadSome(file_, to + size, kBlock - size);
+      if (count > 0) size += static_cast<std::size_t>(count);
+    }
+    if (count < 0) pending_error_ = errno;
+    return size;
+  });
+  const bool marked = !std::exchange(started_, true) && block_.View().starts_with(kByteOrderMark);
+  position_ = marked ? kByteOrderMark.size() : 0;
+  has_returns_ = block_.View().find('\r') != std::string_view::npos;
+}
+
+void TextInputStream::CheckForError() const {
+  if (!use_io_exceptions_ || last_error_code_ == 0) return;
+  IOException failure;
+  failure.ErrorNumber(last_error_code_);
+  RuntimeRaiseException(failure);
+}
+
+}  // namespace framework

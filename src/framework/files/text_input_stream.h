@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+
+#include "framework/files/folder_item.h"
+
+namespace framework {
+
+/// An open text file that is read by lines. A line ends with LF, CR LF or CR; a UTF-8 byte-order
+/// mark at the start of the file is dropped; other bytes come as they stand. It writes nothing.
+class TextInputStream final : public Object {
+ public:
+  /// Raises NilObjectException for a nil item, and IOException with the item's LastErrorCode as
+  /// ErrorNumber for one that cannot be opened.
+  static Ref<TextInputStream> Open(const Ref<FolderItem>& item);
+
+  /// Takes over an open file of the system.
+  explicit TextInputStream(int file) : file_(file) {}
+  ~TextInputStream() override { Close(); }
+
+  /// The next line, without its line end; empty past the end of the file. It holds the block of up
+  /// to 64 KiB that it was read with as long as it lives, or any part of it. Raises IOException
+  /// with LastErrorCode as ErrorNumber if reading failed and UseIOExceptions is on.
+  String ReadLine();
+  /// True as soon as the last line has been read, also when the file ends in a line end. It raises
+  /// no IOException: a failure that it runs into is the next ReadLine's.
+  bool EOF_();
+  /// Lets go of the file; what is left of it is not read. Closing twice is no error.
+  void Close();
+
+  bool UseIOExceptions() const { return use_io_exceptions_; }
+  void UseIOExceptions(bool value) { use_io_exceptions_ = value; }
+  /// The system's error number of the last ReadLine; 0 when it went well.
+  std::int64_t LastErrorCode() const { return last_error_code_; }
+
+ private:
+  /// True when a byte stands ready at position_. False at the end of the file and after a failure.
+  bool Ready();
+  void Fill();
+  void CheckForError() const;
+
+  int file_;
+  String block_;              ///< what was read last; its lines are parts of it
+  bool has_returns_ = false;  ///< whether a CR stands anywhere in block_; mostly there is none
+  std::size_t position_ = 0;  ///< in block_
+  bool started_ = false;
+  int pending_error_ = 0;  ///< of the system, met but not yet told to a caller of ReadLine
+  std::int64_t last_error_code_ = 0;
+  bool use_io_exceptions_ = false;
+};
+
+}  // namespace framework

@@ -1,0 +1,59 @@
+#include "framework/values/failures.h"
+
+#include <dlfcn.h>
+#include <execinfo.h>
+
+#include <string>
+
+#include "framework/values/cast.h"
+
+namespace framework {
+
+RuntimeException::RuntimeException(String message) : message_(std::move(message)) {
+  constexpr int kDeepest = 64;
+  addresses_.resize(kDeepest);
+  addresses_.resize(static_cast<std::size_t>(backtrace(addresses_.data(), kDeepest)));
+}
+
+Array<StackFrame> RuntimeException::CallStack() const {
+  auto frames = CreateArray<StackFrame>(-1);
+  for (void* const address : addresses_) {
+    Dl_info symbol{};
+    const bool named = dladdr(address, &symbol) != 0 && symbol.dli_sname != nullptr;
+    frames.Append(StackFrame{address, named ? String(symbol.dli_sname) : String()});
+  }
+  return frames;
+}
+
+Array<String> RuntimeException::Stack() const {
+  auto names = CreateArray<String>(-1);
+  const auto frames = CallStack();
+  for (std::int64_t i = 0; i <= frames.LastIndex(); ++i) names.Append(frames[i].Name);
+  return names;
+}
+
+ThreadAccessingUIException::ThreadAccessingUIException()
+    : Failure(
+          "A thread has attempted to manipulate a user interface element. This can only be done "
+          "from "
+          "the application's main thread.") {}
+
+void RaiseNilObjectException(std::string_view class_name) {
+  RuntimeRaiseException(NilObjectException(String("A nil reference was used: ", class_name)));
+}
+
+void RaiseOutOfBoundsException(std::int64_t index, std::int64_t last_index) {
+  RuntimeRaiseException(OutOfBoundsException("Index " + std::to_string(index) +
+                                             " is outside an array whose last index is " +
+                                             std::to_string(last_index)));
+}
+
+void RaiseIllegalCastException(std::string_view class_name) {
+  RuntimeRaiseException(IllegalCastException(String("The object is no ", class_name)));
+}
+
+void RuntimeReraiseException(const std::exception_ptr& exception) {
+  std::rethrow_exception(exception);
+}
+
+}  // namespace framework
