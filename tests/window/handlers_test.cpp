@@ -1,5 +1,6 @@
 #include <thread>
 
+#include "framework/controls/reading.h"
 #include "support/behaviour.h"
 #include "support/monkey.h"
 #include "toolkit/memory/memory_toolkit.h"
@@ -46,6 +47,16 @@ TEST_F(Handlers, TickAloneHidesStarsThatNoRowShowsBehindAllElse) {
   window_->cbScale(7)->Toggle();
   EXPECT_THAT(toolkit_.Lines(), testing::Contains("lbContaining.Rows"));
   EXPECT_EQ(toolkit_.Lines().back(), "lbStar(3).Visible");
+}
+
+TEST_F(Handlers, TallyNamesEachVisibleListByTheLabelAboveItWithItsRows) {
+  Open();
+  for (const int position : {0, 4, 7}) window_->cbScale(position)->Toggle();
+  EXPECT_EQ(_Tally(*window_).View(), "Exact Match 1, Containing All Notes 1");
+  window_->lbContaining()->Visible(false);
+  EXPECT_EQ(_Tally(*window_).View(), "Exact Match 1");
+  window_->Label2()->Visible(false);
+  EXPECT_EQ(_Tally(*window_).View(), "") << "without a title";
 }
 
 TEST_F(Handlers, OperationsOnTheUserInterfaceAreRefusedOffTheMainThread) {

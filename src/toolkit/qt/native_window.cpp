@@ -4,7 +4,7 @@
 #include <QMenuBar>
 #include <algorithm>
 
-#include "framework/controls/label.h"
+#include "framework/controls/reading.h"
 #include "toolkit/qt/label_peer.h"
 #include "toolkit/qt/menu_builder.h"
 #include "toolkit/qt/text.h"
@@ -23,8 +23,7 @@ NativeWindow::NativeWindow(const Ref<framework::Window>& window)
   for (const Ref<Control>& control : window_._Controls()) {
     peers_.push_back(MakePeer(RuntimeCheckCast<RectControl>(control), content_));
   }
-  TitleControls();
-  TieRemarks();
+  TieControls();
   OrderTabs();
 
   const auto size = [&](std::int64_t width, std::int64_t height) {
@@ -39,8 +38,7 @@ NativeWindow::NativeWindow(const Ref<framework::Window>& window)
 
 void NativeWindow::Added(const Ref<RectControl>& control) {
   peers_.push_back(MakePeer(control, content_));
-  TitleControls();
-  TieRemarks();
+  TieControls();
   OrderTabs();
 }
 
@@ -49,47 +47,32 @@ void NativeWindow::closeEvent(QCloseEvent* event) {
   window_.Close();
 }
 
-void NativeWindow::TitleControls() {
-  for (const auto& peer : peers_) {
-    const QRect frame = peer->Widget().geometry();
-    ControlPeer* title = nullptr;
-    for (const auto& candidate : peers_) {
-      const QRect above = candidate->Widget().geometry();
-      const auto* const label = dynamic_cast<const Label*>(&candidate->Control());
-      if (label == nullptr || !label->Visible() || above.bottom() >= frame.top()) continue;
-      if (above.left() > frame.right() || above.right() < frame.left()) continue;
-      if (title == nullptr || above.top() > title->Widget().geometry().top()) {
-        title = candidate.get();
-      }
-    }
-    if (title == nullptr) continue;
-    peer->Title(Shown(static_cast<const Label&>(title->Control()).Text()), *title);
-  }
+ControlPeer& NativeWindow::PeerOf(const Ref<RectControl>& control) const {
+  const auto found =
+      std::ranges::find(peers_, control.Get(), [](const auto& peer) { return &peer->Control(); });
+  return **found;
 }
 
-void NativeWindow::TieRemarks() {
+void NativeWindow::TieControls() {
   for (const auto& peer : peers_) {
-    auto* const label = dynamic_cast<LabelPeer*>(peer.get());
+    RectControl& control = peer->Control();
+    if (const Ref<Label> title = _TitleOf(control)) {
+      peer->Title(Shown(title->Text()), PeerOf(title));
+    }
+    const auto* const label = dynamic_cast<const Label*>(&control);
     if (label == nullptr) continue;
-    const QRect frame = label->Widget().geometry();
-    for (const auto& other : peers_) {
-      const QRect beside = other->Widget().geometry();
-      const bool level =
-          beside.top() <= frame.center().y() && beside.bottom() >= frame.center().y();
-      if (level && beside.left() == frame.right() + 1) label->RemarkOn(*other);
+    if (const Ref<RectControl> other = _RemarkedBy(*label)) {
+      static_cast<LabelPeer&>(*peer).RemarkOn(PeerOf(other));
     }
   }
 }
 
 void NativeWindow::OrderTabs() {
-  std::vector<QWidget*> order;
-  for (const auto& peer : peers_) {
-    if (peer->Widget().focusPolicy() != Qt::NoFocus) order.push_back(&peer->Widget());
+  const auto order = _TabOrder(window_);
+  for (std::size_t i = 1; i < order.size(); ++i) {
+    setTabOrder(&PeerOf(order[i - 1]).Widget(), &PeerOf(order[i]).Widget());
   }
-  std::ranges::stable_sort(
-      order, {}, [](const QWidget* widget) { return std::pair(widget->x(), widget->y()); });
-  for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
-  if (!order.empty() && focusWidget() == nullptr) order.front()->setFocus();
+  if (!order.empty() && focusWidget() == nullptr) PeerOf(order.front()).Widget().setFocus();
 }
 
 }  // namespace toolkit::qt

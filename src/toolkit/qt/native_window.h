@@ -21,10 +21,9 @@ class NativeWindow final : public QMainWindow, public framework::WindowPeer {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  /// Names each control that shows no caption after the label above it.
-  void TitleControls();
-  /// Makes each label that touches a control at its right a remark on it.
-  void TieRemarks();
+  ControlPeer& PeerOf(const framework::Ref<framework::RectControl>& control) const;
+  /// Gives each control its title, and each label that is a remark the control that it is on.
+  void TieControls();
   void OrderTabs();
 
   framework::Window& window_;  ///< which owns this peer
