@@ -75,7 +75,7 @@ for name in ("C", "E", "G"):
 until("three columns", [3, 3], lambda: [table.queryTable().nColumns for table in tables.values()])
 until("the exact match", True, lambda: "C" in [root for _, _, root in rows("Exact Match")])
 found = rows("Containing All Notes")
-major = next(row for row, cells in enumerate(found) if cells[1] == "Major" or cells[1] == "Ionian")
+major = next(row for row, cells in enumerate(found) if "Major" in cells[1].split(" / "))
 
 
 def descriptions():
