@@ -31,6 +31,21 @@ TEST_F(Failures, AreReportedWhenNoOneTookThem) {
               StartsWith("failure IOException"));
 }
 
+TEST_F(Failures, TravelWholeAndKnowWhereTheyWereRaised) {
+  const InvalidArgumentException made("which");
+  const RuntimeException& known_by_its_base = made;
+  EXPECT_LT(made.CallStack().LastIndex(), 0);
+  EXPECT_THROW(RuntimeRaiseException(ThreadAccessingUIException()), ThreadAccessingUIException);
+  try {
+    RuntimeRaiseException(known_by_its_base);
+  } catch (const InvalidArgumentException& raised) {
+    EXPECT_EQ(raised.Message().View(), "which");
+    EXPECT_GT(raised.CallStack().LastIndex(), 3);
+    return;
+  }
+  FAIL() << "it was raised as another";
+}
+
 TEST_F(Failures, OfOtherKindsEndTheRunLoopAndAreRaisedBehindIt) {
   toolkit_.Post([] { _RunEvent([] { throw 1; }); });
   toolkit_.Post([this] { toolkit_.Log("never"); });

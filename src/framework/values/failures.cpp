@@ -3,21 +3,30 @@
 #include <dlfcn.h>
 #include <execinfo.h>
 
+#include <span>
 #include <string>
 
 #include "framework/values/cast.h"
 
 namespace framework {
 
-RuntimeException::RuntimeException(String message) : message_(std::move(message)) {
-  constexpr int kDeepest = 64;
-  addresses_.resize(kDeepest);
-  addresses_.resize(static_cast<std::size_t>(backtrace(addresses_.data(), kDeepest)));
+namespace {
+
+// In one piece, for whoever searches for what was shown.
+// clang-format off
+constexpr const char* kOffTheMainThread = "A thread has attempted to manipulate a user interface element. This can only be done from the application's main thread.";
+// clang-format on
+
+}  // namespace
+
+void RuntimeException::NoteStack() noexcept {
+  depth_ =
+      static_cast<std::size_t>(backtrace(addresses_.data(), static_cast<int>(addresses_.size())));
 }
 
 Array<StackFrame> RuntimeException::CallStack() const {
   auto frames = CreateArray<StackFrame>(-1);
-  for (void* const address : addresses_) {
+  for (void* const address : std::span(addresses_).first(depth_)) {
     Dl_info symbol{};
     const bool named = dladdr(address, &symbol) != 0 && symbol.dli_sname != nullptr;
     frames.Append(StackFrame{address, named ? String(symbol.dli_sname) : String()});
@@ -32,11 +41,7 @@ Array<String> RuntimeException::Stack() const {
   return names;
 }
 
-ThreadAccessingUIException::ThreadAccessingUIException()
-    : Failure(
-          "A thread has attempted to manipulate a user interface element. This can only be done "
-          "from "
-          "the application's main thread.") {}
+ThreadAccessingUIException::ThreadAccessingUIException() : Failure(kOffTheMainThread) {}
 
 void RaiseNilObjectException(std::string_view class_name) {
   RuntimeRaiseException(NilObjectException(String("A nil reference was used: ", class_name)));

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <exception>
 #include <string_view>
 #include <type_traits>
-#include <vector>
 
 #include "framework/values/array.h"
 #include "framework/values/string.h"
@@ -19,16 +20,21 @@ struct StackFrame {
 };
 
 /// Base of all failures, which are thrown by value. A guard names the class that it takes; nothing
-/// in the program returns an error code.
+/// in the program returns an error code. Beside its texts a failure takes no memory: one that tells
+/// of memory refused must not ask for more.
 class RuntimeException {
  public:
-  RuntimeException() : RuntimeException(String()) {}
-  explicit RuntimeException(String message);
+  RuntimeException() = default;
+  explicit RuntimeException(String message) : message_(std::move(message)) {}
   RuntimeException(const RuntimeException&) = default;
   RuntimeException& operator=(const RuntimeException&) = default;
   virtual ~RuntimeException() = default;
 
-  /// The stack at the raising, innermost place first; empty where the system cannot tell.
+  /// Raises this failure, of whatever class a reference knows it, and notes the stack.
+  [[noreturn]] virtual void _Raise() const { RaiseAs(*this); }
+
+  /// The stack at the raising, innermost place first; empty before that, and where the system
+  /// cannot tell.
   virtual Array<StackFrame> CallStack() const;
   /// The same, as names; an unnamed place is an empty text.
   virtual Array<String> Stack() const;
@@ -43,19 +49,30 @@ class RuntimeException {
   const String& Reason() const noexcept { return reason_; }
   void Reason(String value) noexcept { reason_ = std::move(value); }
 
+ protected:
+  template <class Self>
+  [[noreturn]] static void RaiseAs(Self failure) {
+    failure.NoteStack();
+    throw failure;
+  }
+
  private:
-  std::vector<void*> addresses_;
+  void NoteStack() noexcept;
+
+  std::array<void*, 64> addresses_{};
+  std::size_t depth_ = 0;
   String message_;
   String reason_;
   std::int64_t error_number_ = 0;
 };
 
-/// What a class of the family adds to its base: its name.
+/// What a class of the family adds to its base: its name, and that it is raised whole.
 template <class Self, class Base = RuntimeException>
 class Failure : public Base {
  public:
   using Base::Base;
   std::string_view ClassName() const noexcept override { return TypeName<Self>(); }
+  [[noreturn]] void _Raise() const override { Base::RaiseAs(static_cast<const Self&>(*this)); }
 };
 
 // clang-format off
@@ -101,9 +118,9 @@ class ObjCException : public Failure<ObjCException> {
 };
 
 /// Raises a failure. Control does not come back.
-template <class Exception>
-[[noreturn]] void RuntimeRaiseException(const Exception& exception) {
-  throw exception;
+[[noreturn]] inline void RuntimeRaiseException(const RuntimeException& exception) {
+  exception._Raise();
+  __builtin_unreachable();  // GCC forgets of a virtual function that it does not return
 }
 
 /// Raises a failure again that was taken: the same object, with its class and its stack.
