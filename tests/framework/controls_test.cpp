@@ -1,6 +1,7 @@
 #include "framework/controls/check_box.h"
 #include "framework/controls/listbox.h"
 #include "framework/controls/window.h"
+#include "framework/events/timer.h"
 #include "support/running.h"
 
 namespace {
@@ -72,9 +73,17 @@ TEST_F(Controls, AreFoundByNameAndIndexAlsoAsParents) {
   EXPECT_EQ(list_->Parent(), box_);
   list_->InitialParent("");
   EXPECT_FALSE(list_->Parent());
-  for (const char* const wrong : {"box$4", "box", "box$", "$3", "box$3x"}) {
+  const auto first = bench_->__New<CheckBox>();
+  first->Index(0);
+  bench_->_AddControl("box", first);
+  for (const char* const wrong :
+       {"box$4", "box", "box$", "$3", "box$3x", "list$-2147483648", "box$99999999999999999999"}) {
     EXPECT_THROW(list_->InitialParent(wrong), InvalidParentException) << wrong;
   }
+  first->InitialParent("box$3");
+  EXPECT_THROW(first->InitialParent("box$0"), InvalidParentException) << "it is itself";
+  EXPECT_THROW(box_->InitialParent("box$0"), InvalidParentException) << "it lies in the box";
+  EXPECT_EQ(first->InitialParent().View(), "box$3");
 }
 
 TEST_F(Controls, RefuseWhatDoesNotFit) {
@@ -82,12 +91,19 @@ TEST_F(Controls, RefuseWhatDoesNotFit) {
   EXPECT_THROW(RuntimeAddEventHandler(list_, Listbox::kOpen, ticked_), TypeMismatchException);
   EXPECT_THROW(RuntimeAddEventHandler(nullptr, CheckBox::kAction, ticked_), NilObjectException);
   EXPECT_THROW(list_->AddRow(Array<String>()), NilObjectException);
+  EXPECT_THROW(bench_->_AddControl("nil", nullptr), NilObjectException);
+  EXPECT_THROW(RuntimeCreateDelegate<&Bench::Ticked>(nullptr, "( CheckBox )"), NilObjectException);
+  EXPECT_THROW(Timer::CallLater(0, nullptr), NilObjectException);
   EXPECT_EQ(list_->LastIndex(), -1);
   EXPECT_THROW(list_->AddRow({"a", "one too many"}), OutOfBoundsException);
   EXPECT_THROW(list_->Select(1), OutOfBoundsException);
+  const auto bar = RuntimeNewObject<framework::MenuBar>();
   const auto item = RuntimeNewObject<MenuItem>();
-  RuntimeNewObject<framework::MenuBar>()->Append(item);
+  bar->Append(item);
   EXPECT_THROW(RuntimeNewObject<framework::MenuBar>()->Append(item), MenuHasParentException);
+  EXPECT_THROW(bar->Append(bar), MenuHasParentException);
+  EXPECT_THROW(item->Append(bar), MenuHasParentException) << "it would stand below itself";
+  EXPECT_FALSE(bar->_Lookup("none"));
 }
 
 }  // namespace

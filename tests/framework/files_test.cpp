@@ -56,6 +56,10 @@ TEST_F(Files, NameTheirPartsWhetherTheyExistOrNot) {
   EXPECT_EQ(std::string(item->Parent()->Parent()->NativePath()), "/");
   EXPECT_FALSE(item->Parent()->Parent()->Parent());
   EXPECT_FALSE(GetFolderItem(String(std::string_view("/tmp\0x", 6)))->Exists());
+  EXPECT_EQ(GetFolderItem("/a/b//")->Name().View(), "b");
+  EXPECT_EQ(GetFolderItem("/a/b//")->Parent()->NativePath().View(), "/a");
+  EXPECT_EQ(GetFolderItem("//")->Name().View(), "");
+  EXPECT_FALSE(GetFolderItem("//")->Parent());
 }
 
 /// A program whose executable lies where the test says.

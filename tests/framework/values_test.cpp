@@ -1,7 +1,9 @@
+#include <limits>
 #include <set>
 
 #include "framework/values/cast.h"
 #include "framework/values/pool.h"
+#include "framework/values/text.h"
 #include "framework/values/weak_ref.h"
 #include "support/running.h"
 
@@ -25,6 +27,16 @@ TEST_F(Values, AreKeptByReferencesAndNotByWeakOnes) {
   EXPECT_EQ(weak->Value(), object);
   object = nullptr;
   EXPECT_FALSE(weak->Value());
+}
+
+TEST_F(Values, OfNoUseAreRefusedOrTakenForEmpty) {
+  for (const std::int64_t last : {std::int64_t{-2}, std::numeric_limits<std::int64_t>::min(),
+                                  std::numeric_limits<std::int64_t>::max()}) {
+    EXPECT_THROW(CreateArray<String>(last), OutOfBoundsException) << last;
+  }
+  EXPECT_EQ(CreateArray<String>(-1).LastIndex(), -1);
+  EXPECT_EQ(Split(nullptr, nullptr)[0].View(), "");
+  EXPECT_EQ(Split("a,b", nullptr).LastIndex(), 0);
 }
 
 TEST_F(Values, HoldATextThatWasWrittenInPlace) {

@@ -73,6 +73,13 @@ void RectControl::Constructor() {
   if (const Ref<framework::Window> window = Window()) window->_Finish(Ref<RectControl>(this));
 }
 
+void RectControl::Parent(const Ref<RectControl>& value) {
+  for (Ref<RectControl> above = value; above; above = above->Parent()) {
+    if (above.Get() == this) RuntimeRaiseException(InvalidParentException(Name()));
+  }
+  parent_(value);
+}
+
 void RectControl::InitialParent(const String& value) {
   const std::string_view text = value.View();
   if (text.empty()) {
@@ -83,12 +90,13 @@ void RectControl::InitialParent(const String& value) {
   std::int64_t index = 0;
   const char* const end = text.data() + text.size();
   const char* const digits = dollar == text.npos ? end : text.data() + dollar + 1;
-  const bool named = digits != end && std::from_chars(digits, end, index).ptr == end;
+  const auto read = std::from_chars(digits, end, index);
+  const bool named = digits != end && read.ptr == end && read.ec == std::errc() && index >= 0;
   const Ref<Control> parent =
       named ? Window()->_ControlByNameIndex(text.substr(0, dollar), index) : nullptr;
   if (!parent) RuntimeRaiseException(InvalidParentException(value));
-  initial_parent_ = value;
   Parent(RuntimeCheckCast<RectControl>(parent));
+  initial_parent_ = value;
 }
 
 void RuntimeAddEventHandler(const Ref<Control>& control, std::int64_t event,

@@ -79,15 +79,19 @@ class RectControl : public Control {
   Property<String> DataSource{*this, Change::Look};
   Property<String> DataField{*this, Change::Look};
   /// The container; nil when the control lies directly on the window. A control is placed by the
-  /// window's measures and shown by its own Visible, whatever its container does.
-  Property<Ref<RectControl>, Guard::UI> Parent{*this, Change::Frame};
+  /// window's measures and shown by its own Visible, whatever its container does. Raises
+  /// InvalidParentException for the control itself and for one that it contains.
+  Ref<RectControl> Parent() const { return parent_(); }
+  void Parent(const Ref<RectControl>& value);
 
   /// The container at first: empty for none, else a set's name, "$" and an index ("cbScale$2").
-  /// Setting it sets Parent; raises InvalidParentException when the window has no such control.
+  /// Setting it sets Parent; raises InvalidParentException when the window has no such control,
+  /// or one that cannot be the parent.
   const String& InitialParent() const { return initial_parent_; }
   void InitialParent(const String& value);
 
  private:
+  Property<Ref<RectControl>, Guard::UI> parent_{*this, Change::Frame};
   String initial_parent_;
 };
 

@@ -1,5 +1,7 @@
 #include "framework/controls/menu.h"
 
+#include <algorithm>
+
 #include "framework/events/run_loop.h"
 #include "framework/events/toolkit.h"
 #include "framework/values/failures.h"
@@ -11,9 +13,16 @@ void MenuItem::Constructor() { _UITrap(); }
 
 void MenuItem::Append(const Ref<MenuItem>& item) {
   _UITrap();
-  if (item->has_parent_) RuntimeRaiseException(MenuHasParentException(item->Name()));
+  if (item->has_parent_ || item->Holds(*this))
+    RuntimeRaiseException(MenuHasParentException(item->Name()));
   item->has_parent_ = true;
   children_.Append(item);
+}
+
+bool MenuItem::Holds(const MenuItem& item) const {
+  const auto items = children_._Items();
+  return this == &item ||
+         std::ranges::any_of(items, [&](const Ref<MenuItem>& child) { return child->Holds(item); });
 }
 
 Ref<MenuItem> MenuItem::Child(std::string_view name) const {

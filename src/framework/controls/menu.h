@@ -25,7 +25,8 @@ class MenuItem : public Mirrored {
   Property<bool, Guard::UI> Enabled{*this, Change::Look, true};
 
   /// Adds an item below this one, at the end. Raises NilObjectException for a nil item and
-  /// MenuHasParentException for one that stands in a menu already.
+  /// MenuHasParentException for one that stands in a menu already, for this one itself and for one
+  /// that this one stands below.
   void Append(const Ref<MenuItem>& item);
   /// The direct child with that Name; nil when there is none.
   Ref<MenuItem> Child(std::string_view name) const;
@@ -48,6 +49,9 @@ class MenuItem : public Mirrored {
   virtual bool HandlesAction() const { return false; }
 
  private:
+  /// Whether an item is this one or stands below it.
+  bool Holds(const MenuItem& item) const;
+
   bool has_parent_ = false;
   Array<Ref<MenuItem>> children_ = CreateArray<Ref<MenuItem>>(-1);
 };

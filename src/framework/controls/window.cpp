@@ -75,6 +75,7 @@ void Window::Constructor() {
 
 void Window::_AddControl(const String& name, const Ref<Control>& control) {
   _UITrap();
+  if (!control) RaiseNilObjectException("Control");
   registry_.push_back({name, control});
 }
 

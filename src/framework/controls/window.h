@@ -66,7 +66,7 @@ class Window : public Component {
     return control;
   }
   /// Files the control under the name and its Index. The first one filed under both answers to
-  /// them.
+  /// them. Raises NilObjectException for a nil control.
   void _AddControl(const String& name, const Ref<Control>& control);
   /// The control of that name outside every control set; nil when there is none.
   Ref<Control> _ControlByName(std::string_view name) const;

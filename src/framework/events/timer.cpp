@@ -35,6 +35,7 @@ void _CallLaterTimer::Action() {
 }  // namespace
 
 void Timer::CallLater(std::int64_t delay_ms, std::function<void()> method) {
+  if (!method) RaiseNilObjectException("Delegate");
   const auto timer = RuntimeNewObject<_CallLaterTimer>(std::move(method));
   sCallLaterTimers().emplace(timer.Get(), timer);
   Toolkit::Current().CallLater(delay_ms, [live = RuntimeNewObject<WeakRef>(timer)] {

@@ -9,7 +9,7 @@ namespace framework {
 class Timer {
  public:
   /// Runs the method once, from the event loop, after the running event is over and the delay has
-  /// gone.
+  /// gone. Raises NilObjectException for an empty method.
   static void CallLater(std::int64_t delay_ms, std::function<void()> method);
 
   /// Drops the timers that have not fired.

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <string>
 
@@ -16,6 +17,12 @@ namespace {
 std::string SystemPath(const String& path) {
   std::string text(path.View());
   return text.find('\0') == std::string::npos ? text : std::string();
+}
+
+/// The path without the slashes at its end, which add nothing to what it names.
+std::string_view Trimmed(const String& path) {
+  const std::string_view text = path.View();
+  return text.substr(0, std::max<std::size_t>(text.find_last_not_of('/') + 1, 1));
 }
 
 }  // namespace
@@ -32,15 +39,15 @@ bool FolderItem::Exists() const {
 }
 
 String FolderItem::Name() const {
-  const std::string_view path = path_.View();
+  const std::string_view path = Trimmed(path_);
   return path.substr(path.rfind('/') + 1);
 }
 
 Ref<FolderItem> FolderItem::Parent() const {
-  const std::string_view path = path_.View();
+  const std::string_view path = Trimmed(path_);
   const auto slash = path.rfind('/');
   if (slash == path.npos || path.size() == 1) return nullptr;
-  return GetFolderItem(slash == 0 ? path.substr(0, 1) : path.substr(0, slash));
+  return GetFolderItem(path.substr(0, std::max<std::size_t>(slash, 1)));
 }
 
 Ref<FolderItem> GetFolderItem(const String& path) {

@@ -18,7 +18,7 @@ class FolderItem final : public Object {
   Ref<FolderItem> Child(const String& name) const;
   /// True when the path leads to something, through links too.
   bool Exists() const;
-  /// The last part of the path.
+  /// The last part of the path, with or without a slash behind it; empty for the topmost folder.
   String Name() const;
   /// The containing folder; nil for the topmost one and for a bare name.
   Ref<FolderItem> Parent() const;

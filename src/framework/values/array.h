@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <limits>
 #include <span>
 #include <utility>
 #include <vector>
@@ -57,9 +58,12 @@ class Array {
   Ref<Elements> elements_;
 };
 
-/// A new array of default elements, up to last_index; -1 gives an empty one.
+/// A new array of default elements, up to last_index; -1 gives an empty one. Raises
+/// OutOfBoundsException for a last index that no array can have.
 template <class T>
 Array<T> CreateArray(std::int64_t last_index) {
+  constexpr auto kMost = std::numeric_limits<std::ptrdiff_t>::max() / std::int64_t{sizeof(T)};
+  if (last_index < -1 || last_index >= kMost) RaiseOutOfBoundsException(last_index, kMost - 1);
   Array<T> array{};
   array.elements_ = RuntimeNewObject<typename Array<T>::Elements>();
   array.elements_->items.resize(static_cast<std::size_t>(last_index + 1));

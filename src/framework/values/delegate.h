@@ -44,12 +44,14 @@ struct HandlerTraits<void (T::*)(const Ref<C>&)> {
 }  // namespace detail
 
 /// A delegate on a method of target that takes the object which raised the event. The sender is
-/// cast to the class that the method names, which raises IllegalCastException if it is none.
+/// cast to the class that the method names, which raises IllegalCastException if it is none. Raises
+/// NilObjectException for a nil target.
 template <auto kHandler>
 Ref<Delegate> RuntimeCreateDelegate(
     const Ref<typename detail::HandlerTraits<std::remove_cv_t<decltype(kHandler)>>::Target>& target,
     std::string_view signature) {
   using Traits = detail::HandlerTraits<std::remove_cv_t<decltype(kHandler)>>;
+  if (!target) RaiseNilObjectException(TypeName<typename Traits::Target>());
   return RuntimeNewObject<Delegate>(
       [](Object& object, const Ref<Object>& sender) {
         (static_cast<typename Traits::Target&>(object).*

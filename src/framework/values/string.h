@@ -22,7 +22,8 @@ namespace framework {
 class String {
  public:
   constexpr String() noexcept = default;
-  String(const char* text) : String(std::string_view(text)) {}
+  /// nullptr is the nil String.
+  String(const char* text) : String(text == nullptr ? std::string_view() : text) {}
   String(std::string_view text) : String(text, {}) {}
   String(const std::string& text) : String(std::string_view(text)) {}
   /// The text of a, then that of b. Raises std::bad_alloc for more than 4 GiB.
