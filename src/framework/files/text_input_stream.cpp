@@ -25,12 +25,7 @@ ssize_t ReadSome(int file, char* to, std::size_t size) {
   return count;
 }
 
-/// The bytes before the first line end; all of them when there is none.
-std::size_t LineSize(std::string_view text, bool has_returns) {
-  if (!has_returns) return std::min(text.find('\n'), text.size());
-  const auto end = std::ranges::find_if(text, [](char c) { return c == '\n' || c == '\r'; });
-  return static_cast<std::size_t>(end - text.begin());
-}
+bool EndsLine(char byte) { return byte == '\n' || byte == '\r'; }
 
 }  // namespace
 
@@ -47,24 +42,16 @@ Ref<TextInputStream> TextInputStream::Open(const Ref<FolderItem>& item) {
 }
 
 String TextInputStream::ReadLine() {
-  String line;
-  std::string head;  // what earlier blocks have of the line
+  std::string line;
   bool ended = false;
   while (!ended && Ready()) {
-    const std::string_view rest = block_.View().substr(position_);
-    const std::size_t size = LineSize(rest, has_returns_);
-    ended = size < rest.size();
-    if (ended && head.empty()) {
-      line = String(block_, position_, size);
-    } else {
-      head.append(rest.substr(0, size));
-    }
-    position_ += size;
-    if (!ended) continue;
-    ++position_;
-    if (rest[size] == '\r' && Ready() && block_.View()[position_] == '\n') ++position_;
+    const std::string_view rest = std::string_view(block_).substr(position_);
+    const auto end = std::find_if(rest.begin(), rest.end(), &EndsLine);
+    line.append(rest.begin(), end);
+    position_ += static_cast<std::size_t>(end - rest.begin());
+    ended = end != rest.end();
   }
-  if (!head.empty()) line = head;
+  if (ended && block_[position_++] == '\r' && Ready() && block_[position_] == '\n') ++position_;
   // A line that came whole is given out; a failure met behind it waits for the next call.
   last_error_code_ = ended ? 0 : std::exchange(pending_error_, 0);
   CheckForError();
@@ -76,31 +63,29 @@ bool TextInputStream::EOF_() { return !Ready() && pending_error_ == 0; }
 void TextInputStream::Close() {
   if (file_ >= 0) close(file_);
   file_ = -1;
-  position_ = block_.View().size();
+  position_ = block_.size();
 }
 
 bool TextInputStream::Ready() {
-  if (position_ == block_.View().size() && pending_error_ == 0 && file_ >= 0) Fill();
-  return position_ < block_.View().size();
+  if (position_ == block_.size() && pending_error_ == 0 && file_ >= 0) Fill();
+  return position_ < block_.size();
 }
 
 void TextInputStream::Fill() {
+  block_.resize(kBlock);
   // The file's first bytes may come in pieces, from a file system over a network say: a byte-order
   // mark is only seen whole, and with something behind it.
   const std::size_t wanted = started_ ? 1 : kByteOrderMark.size() + 1;
-  block_ = String::Written(kBlock, [&](char* to) {
-    std::size_t size = 0;
-    ssize_t count = 1;
-    while (size < wanted && count > 0) {
-      count = ReadSome(file_, to + size, kBlock - size);
-      if (count > 0) size += static_cast<std::size_t>(count);
-    }
-    if (count < 0) pending_error_ = errno;
-    return size;
-  });
-  const bool marked = !std::exchange(started_, true) && block_.View().starts_with(kByteOrderMark);
+  std::size_t size = 0;
+  ssize_t count = 1;
+  while (size < wanted && count > 0) {
+    count = ReadSome(file_, block_.data() + size, kBlock - size);
+    if (count > 0) size += static_cast<std::size_t>(count);
+  }
+  if (count < 0) pending_error_ = errno;
+  block_.resize(size);
+  const bool marked = !std::exchange(started_, true) && block_.starts_with(kByteOrderMark);
   position_ = marked ? kByteOrderMark.size() : 0;
-  has_returns_ = block_.View().find('\r') != std::string_view::npos;
 }
 
 void TextInputStream::CheckForError() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "framework/files/folder_item.h"
 
@@ -18,9 +19,8 @@ class TextInputStream final : public Object {
   explicit TextInputStream(int file) : file_(file) {}
   ~TextInputStream() override { Close(); }
 
-  /// The next line, without its line end; empty past the end of the file. It holds the block of up
-  /// to 64 KiB that it was read with as long as it lives, or any part of it. Raises IOException
-  /// with LastErrorCode as ErrorNumber if reading failed and UseIOExceptions is on.
+  /// The next line, without its line end; empty past the end of the file. Raises IOException with
+  /// LastErrorCode as ErrorNumber if reading failed and UseIOExceptions is on.
   String ReadLine();
   /// True as soon as the last line has been read, also when the file ends in a line end. It raises
   /// no IOException: a failure that it runs into is the next ReadLine's.
@@ -40,8 +40,7 @@ class TextInputStream final : public Object {
   void CheckForError() const;
 
   int file_;
-  String block_;              ///< what was read last; its lines are parts of it
-  bool has_returns_ = false;  ///< whether a CR stands anywhere in block_; mostly there is none
+  std::string block_;         ///< what was read last
   std::size_t position_ = 0;  ///< in block_
   bool started_ = false;
   int pending_error_ = 0;  ///< of the system, met but not yet told to a caller of ReadLine
