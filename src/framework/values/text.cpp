@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <charconv>
-#include <cstring>
 #include <string_view>
 
 namespace framework {
@@ -19,54 +17,17 @@ String Digits(Integer value, int base) {
   return std::string_view(digits.data(), static_cast<std::size_t>(end - digits.data()));
 }
 
-/// Bytes that FindAll looks through at a time.
-constexpr std::size_t kStretch = 256;
-
-/// Where the byte stands in a text of at most kStretch bytes. How many places there are.
-std::size_t FindAll(std::string_view text, char byte, std::array<std::size_t, kStretch>& places) {
-  std::size_t count = 0;
-  std::size_t at = 0;
-  if constexpr (std::endian::native == std::endian::little) {
-    constexpr std::uint64_t kLowBits = 0x7f7f7f7f7f7f7f7f;
-    const std::uint64_t wanted =
-        std::uint64_t{0x0101010101010101} * static_cast<unsigned char>(byte);
-    for (; at + sizeof wanted <= text.size(); at += sizeof wanted) {
-      std::uint64_t eight = 0;
-      std::memcpy(&eight, text.data() + at, sizeof eight);
-      eight ^= wanted;
-      // The top bit of each byte that has become 0.
-      std::uint64_t found = ~(((eight & kLowBits) + kLowBits) | eight | kLowBits);
-      for (; found != 0; found &= found - 1) {
-        places[count++] = at + static_cast<std::size_t>(std::countr_zero(found)) / 8;
-      }
-    }
-  }
-  for (; at < text.size(); ++at) {
-    places[count] = at;
-    count += text[at] == byte ? 1U : 0U;
-  }
-  return count;
-}
-
 }  // namespace
 
 Array<String> Split(const String& text, const String& delimiter) {
-  const std::string_view all = text.View();
   const std::string_view cut = delimiter.View();
+  std::string_view rest = text.View();
   std::vector<String> parts;
-  std::size_t begin = 0;
-  std::array<std::size_t, kStretch> places;
-  for (std::size_t from = 0; !cut.empty() && from < all.size(); from += kStretch) {
-    const std::size_t count = FindAll(all.substr(from, kStretch), cut[0], places);
-    parts.reserve(count + 1);
-    for (std::size_t k = 0; k < count; ++k) {
-      const std::size_t at = from + places[k];
-      if (cut.size() > 1 && (at < begin || !all.substr(at).starts_with(cut))) continue;
-      parts.emplace_back(text, begin, at - begin);
-      begin = at + cut.size();
-    }
+  for (std::size_t at = 0; !cut.empty() && (at = rest.find(cut)) != rest.npos;) {
+    parts.emplace_back(rest.substr(0, at));
+    rest.remove_prefix(at + cut.size());
   }
-  parts.emplace_back(text, begin, all.size() - begin);
+  parts.emplace_back(rest);
   return Array<String>(std::move(parts));
 }
 
@@ -84,6 +45,11 @@ double Val(const String& text) {
 }
 
 String Bin(std::int64_t value) { return Digits(static_cast<std::uint64_t>(value), 2); }
+
+std::int32_t RuntimeStringCompare(std::string_view a, std::string_view b) {
+  const auto same = [](char x, char y) { return Folded(x) == Folded(y); };
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), same) ? 0 : 1;
+}
 
 String RuntimeAddString(const String& a, const String& b) { return {a.View(), b.View()}; }
 

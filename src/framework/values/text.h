@@ -1,7 +1,5 @@
 #pragma once
 
-#include <algorithm>
-#include <array>
 #include <cstdint>
 #include <string_view>
 
@@ -29,26 +27,12 @@ String Bin(std::int64_t value);
 
 /// A byte as RuntimeStringCompare takes it: the case of ASCII letters is folded. This is the one
 /// place that decides whether case counts.
-inline unsigned char Folded(char byte) {
-  static constexpr auto kFolded = [] {
-    std::array<unsigned char, 256> folded{};
-    for (std::size_t i = 0; i < folded.size(); ++i) {
-      folded[i] = static_cast<unsigned char>(i >= 'A' && i <= 'Z' ? i - 'A' + 'a' : i);
-    }
-    return folded;
-  }();
-  return kFolded[static_cast<unsigned char>(byte)];
+constexpr char Folded(char byte) {
+  return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
 }
 
-/// Equality of texts: 0 when they are the same but for the case of ASCII letters, else 1. What the
-/// bytes are decides no branch, for in the fields of a library no processor could foretell it.
-inline std::int32_t RuntimeStringCompare(std::string_view a, std::string_view b) {
-  std::size_t difference = a.size() ^ b.size();
-  for (std::size_t i = 0; i < std::min(a.size(), b.size()); ++i) {
-    difference |= static_cast<std::size_t>(Folded(a[i]) ^ Folded(b[i]));
-  }
-  return difference == 0 ? 0 : 1;
-}
+/// Equality of texts: 0 when they are the same but for the case of ASCII letters, else 1.
+std::int32_t RuntimeStringCompare(std::string_view a, std::string_view b);
 
 /// a, then b.
 String RuntimeAddString(const String& a, const String& b);
