@@ -12,11 +12,10 @@ void TScale::Constructor(const framework::Array<String>& fields) {
   constexpr std::int64_t kFirstPosition = 2;
   bank_ = fields[0];
   scale_ = fields[1];
-  std::int64_t notes = 0;
+  notes_ = 0;
   for (std::int64_t i = kFirstPosition; i < kFirstPosition + kPositions; ++i) {
-    notes = Append(notes, framework::RuntimeStringCompare(fields[i], "TRUE") == 0);
+    notes_ = Append(notes_, framework::RuntimeStringCompare(fields[i], "TRUE") == 0);
   }
-  notes_ = static_cast<std::int32_t>(notes);
 }
 
 String TScale::Print() const {

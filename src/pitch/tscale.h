@@ -3,7 +3,6 @@
 #include <cstdint>
 
 #include "framework/values/array.h"
-#include "framework/values/pool.h"
 #include "framework/values/string.h"
 
 namespace pitch {
@@ -11,10 +10,6 @@ namespace pitch {
 /// One named scale of the library. Its Constructor fills it once; nothing changes it after that.
 class TScale final : public framework::Object {
  public:
-  // Side by side in memory: a pass goes through all records, up to twelve times.
-  static void* operator new(std::size_t) { return Room().Take(); }
-  static void operator delete(void* room) { Room().GiveBack(room); }
-
   /// Takes the fields of one line: bank, name, and for the twelve positions "TRUE" or anything
   /// else, which means that the note is not in the scale. More fields are ignored. Raises
   /// OutOfBoundsException at the first field that is missing.
@@ -34,13 +29,8 @@ class TScale final : public framework::Object {
   const framework::String& Scale() const { return scale_; }
 
  private:
-  static framework::Pool<TScale>& Room() {
-    static auto& room = *new framework::Pool<TScale>;
-    return room;
-  }
-
-  std::int32_t notes_ = 0;  ///< fits the room behind the base: small records are passed fast
   framework::String bank_;
+  std::int64_t notes_ = 0;
   framework::String scale_;
 };
 
