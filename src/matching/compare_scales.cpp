@@ -1,7 +1,5 @@
 #include "matching/compare_scales.h"
 
-#include <optional>
-
 #include "framework/values/text.h"
 #include "matching/walk.h"
 #include "pitch/mask.h"
@@ -21,29 +19,27 @@ std::int64_t TickedMask(const SearchWindow& window) {
   return mask;
 }
 
-/// Adds the rows of one root. root_name is asked at the first match, and not without one.
+/// Adds the rows of one root. root_name is asked at each match, and not without one.
 template <class RootName>
 void AddMatches(const pitch::Scales& scales, std::int64_t mask, const RootName& root_name,
                 Listbox& exact, Listbox& containing) {
-  std::optional<String> root;
-  const auto name = [&]() -> const String& { return root ? *root : root.emplace(root_name()); };
   Walk(
       scales, mask,
       [&](const pitch::TScale& scale) {
-        exact.AddRow({scale.Bank(), scale.Scale(), name()});
+        exact.AddRow({scale.Bank(), scale.Scale(), root_name()});
       },
       [&](const pitch::TScale& scale) {
-        containing.AddRow({scale.Bank(), scale.Scale(), name(), framework::Str(scale.Notes())});
+        containing.AddRow(
+            {scale.Bank(), scale.Scale(), root_name(), framework::Str(scale.Notes())});
       });
 }
 
 void SweepOtherRoots(const SearchWindow& window, std::int64_t mask, Listbox& exact,
                      Listbox& containing) {
+  const std::int64_t selected = window.pmRoot()->ListIndex();
   for (std::int64_t i = 1; i < pitch::kPositions; ++i) {
     if (!window.cbScale(i)->Value() && window.cbRinL()->Value()) continue;
-    const auto root_name = [&] {
-      return window.Labels()[pitch::NameIndex(window.pmRoot()->ListIndex(), i)];
-    };
+    const auto root_name = [&] { return window.Labels()[pitch::NameIndex(selected, i)]; };
     AddMatches(window.Scale(), pitch::Rotate12(mask, i), root_name, exact, containing);
   }
 }
@@ -57,8 +53,9 @@ void CompareScales(const SearchWindow& window) {
   exact->DeleteAllRows();
   const auto containing = window.lbContaining();
   containing->DeleteAllRows();
-  const auto root_name = [&] { return window.cbScale(0)->Caption(); };
-  AddMatches(window.Scale(), mask, root_name, *exact, *containing);
+  const String selected = window.cbScale(0)->Caption();
+  AddMatches(
+      window.Scale(), mask, [&] { return selected; }, *exact, *containing);
   if (window.cbOther()->Value()) SweepOtherRoots(window, mask, *exact, *containing);
 }
 
