@@ -40,12 +40,12 @@ struct Value {
 /// without one must stand in each row.
 struct Key {
   std::string_view name;
-  Type type;
-  bool common;
-  Value value;
+  Type type{};
+  bool common = false;
+  Value value = 0;
 
-  constexpr Key(std::string_view key, Type key_type)
-      : name(key), type(key_type), common(false), value(0) {}
+  constexpr Key() = default;
+  constexpr Key(std::string_view key, Type key_type) : name(key), type(key_type) {}
   constexpr Key(std::string_view key, Value common_value)
       : name(key), type(common_value.type), common(true), value(common_value) {}
 };
@@ -56,63 +56,17 @@ struct Entry {
   Value value;
 };
 
-constexpr std::size_t ValueSize(const Value& value) {
-  switch (value.type) {
-    case Type::i8:
-      return 8;
-    case Type::s:
-      return 4 + value.text.size();
-    case Type::c:
-    case Type::f4:
-      return 4;
-    case Type::b:
-    case Type::u1:
-      return 1;
-  }
-  throw "a type without a form";
-}
-
-/// Hands each key of the kind, in sequence, with the row's value or the common one to visit.
-template <class Visit>
-constexpr void Walk(std::span<const Key> kind, std::span<const Entry> row, Visit visit) {
-  std::size_t next = 0;
-  for (const Key& key : kind) {
-    if (next < row.size() && row[next].key == key.name) {
-      if (row[next].value.type != key.type) throw "a value of another type than its key's";
-      visit(key.name, row[next].value);
-      ++next;
-    } else if (key.common) {
-      visit(key.name, key.value);
-    } else {
-      throw "a row without a key that its kind demands";
-    }
-  }
-  if (next != row.size()) throw "a key that its kind does not know, or not at this place";
-}
-
-/// Length of a row's block, in bytes, without the leading 0xFF.
-constexpr std::size_t BlockLength(std::span<const Key> kind, std::span<const Entry> row) {
-  std::size_t length = 0;
-  Walk(kind, row, [&](std::string_view key, const Value& value) {
-    length += key.size() + 1 + ValueSize(value);
-  });
-  return length;
-}
-
-/// The constant bytes of one block, with the zero bytes that fill its last sixteen.
-template <std::size_t kLength>
-struct Encoded {
-  alignas(16) std::array<unsigned char, (1 + kLength + 15) / 16 * 16> bytes{};
-
-  constexpr framework::Block View() const { return {bytes.data(), kLength}; }
-};
-
-/// Writes bytes one after the other.
+/// Writes bytes one after the other. With nowhere to write, it counts them all the same.
 class Writer {
  public:
-  constexpr explicit Writer(std::span<unsigned char> to) : to_(to) {}
+  constexpr explicit Writer(unsigned char* to) : to_(to) {}
 
-  constexpr void Byte(std::uint8_t byte) { to_[at_++] = byte; }
+  constexpr std::size_t Count() const { return count_; }
+
+  constexpr void Byte(std::uint8_t byte) {
+    if (to_ != nullptr) to_[count_] = byte;
+    ++count_;
+  }
   /// The low bytes of the number, lowest first.
   constexpr void Number(std::int64_t number, int bytes) {
     for (int i = 0; i < bytes; ++i) {
@@ -143,27 +97,50 @@ class Writer {
   }
 
  private:
-  std::span<unsigned char> to_;
-  std::size_t at_ = 0;
+  unsigned char* to_;
+  std::size_t count_ = 0;
 };
 
+/// Writes the block of a row: each key of the kind, in sequence, with the row's value or the common
+/// one. Returns the length of the entries in bytes, without the leading 0xFF.
+constexpr std::size_t Write(unsigned char* to, std::span<const Key> kind,
+                            std::span<const Entry> row) {
+  Writer writer(to);
+  writer.Byte(0xFF);
+  std::size_t next = 0;
+  for (const Key& key : kind) {
+    const bool given = next < row.size() && row[next].key == key.name;
+    if (!given && !key.common) throw "a row without a key that its kind demands";
+    const Value& value = given ? row[next++].value : key.value;
+    if (value.type != key.type) throw "a value of another type than its key's";
+    writer.Characters(key.name);
+    writer.Byte(' ');
+    writer.Put(value);
+  }
+  if (next != row.size()) throw "a key that its kind does not know, or not at this place";
+  return writer.Count() - 1;
+}
+
+/// The constant bytes of one block, with the zero bytes that fill its last sixteen.
+template <std::size_t kLength>
+struct Encoded {
+  alignas(16) std::array<unsigned char, (1 + kLength + 15) / 16 * 16> bytes{};
+
+  constexpr framework::Block View() const { return {bytes.data(), kLength}; }
+};
+
+/// kLength is what Write returns for the row.
 template <std::size_t kLength>
 consteval Encoded<kLength> Encode(std::span<const Key> kind, std::span<const Entry> row) {
   Encoded<kLength> block;
-  Writer writer(block.bytes);
-  writer.Byte(0xFF);
-  Walk(kind, row, [&](std::string_view key, const Value& value) {
-    writer.Characters(key);
-    writer.Byte(' ');
-    writer.Put(value);
-  });
+  Write(block.bytes.data(), kind, row);
   return block;
 }
 
 /// The block of row number kRow of a table whose rows say themselves what their entries are.
 template <const auto& kKind, const auto& kTable, std::size_t kRow>
 inline constexpr auto kBlock =
-    Encode<BlockLength(kKind, kTable[kRow].Entries())>(kKind, kTable[kRow].Entries());
+    Encode<Write(nullptr, kKind, kTable[kRow].Entries())>(kKind, kTable[kRow].Entries());
 
 /// The blocks of a whole table, in its order.
 template <const auto& kKind, const auto& kTable>

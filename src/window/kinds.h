@@ -1,5 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
+
 #include "framework/controls/control.h"
 #include "window/block_encoder.h"
 
@@ -11,19 +14,11 @@ inline constexpr framework::Color kBlack{0x00, 0x00, 0x00, 0x00};
 inline constexpr framework::Color kWhite{0xFF, 0xFF, 0xFF, 0x00};
 inline constexpr framework::Color kGreen{0x00, 0x81, 0x00, 0x00};
 
-/// The sequences of several parts, one behind the other.
-template <std::size_t... kSizes>
-consteval auto Join(const Key (&... parts)[kSizes]) {
-  std::array<Key, (kSizes + ...)> keys = [&]<std::size_t... kPlaces>(
-      std::index_sequence<kPlaces...>) {
-    return std::array<Key, (kSizes + ...)>{((void)kPlaces, Key("", Type::i8))...};
-  }
-  (std::make_index_sequence<(kSizes + ...)>());
-  std::size_t at = 0;
-  const auto append = [&](const auto& part) {
-    for (const Key& key : part) keys[at++] = key;
-  };
-  (append(parts), ...);
+/// The sequence of one part behind that of another.
+template <std::size_t kHead, std::size_t kTail>
+consteval auto Join(const Key (&head)[kHead], const Key (&tail)[kTail]) {
+  std::array<Key, kHead + kTail> keys;
+  std::copy_n(tail, kTail, std::copy_n(head, kHead, keys.begin()));
   return keys;
 }
 

@@ -125,11 +125,6 @@ constexpr LabelRow Text(std::string_view name, int left, int top, int width, int
 
 // clang-format off
 
-struct WindowRow {
-  constexpr std::array<Entry, 0> Entries() const { return {}; }
-};
-constexpr WindowRow kWindowRows[] = {{}};
-
 constexpr ListboxRow kListboxes[] = {
     //               left  top width height tab columns
     {"lbContaining",  208, 210,  387,   249,  0, 4,
@@ -212,7 +207,11 @@ const Block* Find(std::string_view name, std::int64_t index) {
 
 }  // namespace
 
-Block MainWindow() { return encoder::kBlocks<encoder::kWindow, kWindowRows>[0]; }
+Block MainWindow() {
+  static constexpr auto kWindow =
+      encoder::Encode<encoder::Write(nullptr, encoder::kWindow, {})>(encoder::kWindow, {});
+  return kWindow.View();
+}
 
 Block Of(std::string_view name, std::int64_t index) {
   for (const auto find :

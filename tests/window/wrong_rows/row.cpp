@@ -16,5 +16,5 @@ constexpr Entry kRow[] = {{"Left", 1}, {"Top", "2"}, {"Text", "a"}};
 constexpr Entry kRow[] = {{"Left", 1}, {"Top", 2}, {"Text", "a"}, {"Tail", 3}};
 #endif
 
-constexpr std::size_t kLength = BlockLength(kKind, kRow);
+constexpr std::size_t kLength = Write(nullptr, kKind, kRow);
 constexpr auto kEncoded = Encode<kLength>(kKind, kRow);
