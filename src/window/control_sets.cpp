@@ -11,7 +11,8 @@ void cbScaleClass::Constructor() {
   _SetProperties(*this, layout::Of("cbScale", 0));
   const auto owner = framework::RuntimeCheckCast<wdwMainClass>(Window());
   const Ref<CheckBox> self(this);
-  owner->_WireNoteBox(self);
+  owner->_Wire<&wdwMainClass::cbScale_Action>(self, kAction, "( CheckBox )");
+  owner->_Wire<&wdwMainClass::cbScale_Open>(self, kOpen, "( CheckBox )");
   Index(0);
   owner->_AddControl("cbScale", self);
   RectControl::Constructor();
@@ -26,7 +27,7 @@ void lbStarClass::Constructor() {
   _SetProperties(*this, layout::Of("lbStar", 9));
   const auto owner = framework::RuntimeCheckCast<wdwMainClass>(Window());
   const Ref<Label> self(this);
-  owner->_WireStar(self);
+  owner->_Wire<&wdwMainClass::lbStar_Open>(self, kOpen, "( Label )");
   Index(0);
   owner->_AddControl("lbStar", self);
   RectControl::Constructor();

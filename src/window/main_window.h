@@ -62,9 +62,14 @@ class wdwMainClass final : public framework::Window, public matching::SearchWind
   /// pitch::Rotate12.
   std::int64_t Rotate12(std::int64_t value, std::int64_t count) const;
 
-  /// Attaches a set's handlers to a member of it.
-  void _WireNoteBox(const framework::Ref<framework::CheckBox>& box);
-  void _WireStar(const framework::Ref<framework::Label>& star);
+  /// Attaches one of the handlers to an event of a control.
+  template <auto kHandler>
+  void _Wire(const framework::Ref<framework::Control>& control, std::int64_t event,
+             std::string_view signature) {
+    framework::RuntimeAddEventHandler(
+        control, event,
+        framework::RuntimeCreateDelegate<kHandler>(framework::Ref<wdwMainClass>(this), signature));
+  }
 
  protected:
   void Layout() override;

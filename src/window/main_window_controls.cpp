@@ -11,23 +11,15 @@ using namespace framework;
 
 namespace {
 
-/// Makes a control outside every set, as far as its block.
-template <class C>
-void Create(framework::Window& window, std::string_view name) {
+/// Makes a control as far as its block: one outside every set, or the member of a set with that
+/// index, which the window then finds as a Declared.
+template <class C, class Declared = C, class... At>
+void Create(framework::Window& window, std::string_view name, At... index) {
   const auto control = window.__New<C>();
-  control->Constructor();
+  control->Constructor(index...);
   window._AddControl(name, control);
-  _SetProperties(*RuntimeCheckCast<C>(window._ControlByName(name)), layout::Of(name));
-}
-
-/// Makes a member of a set, as far as its block.
-template <class Member, class C>
-void CreateMember(framework::Window& window, std::string_view name, std::int64_t index) {
-  const auto control = window.__New<Member>();
-  control->Constructor(index);
-  window._AddControl(name, control);
-  _SetProperties(*RuntimeCheckCast<C>(window._ControlByNameIndex(name, index)),
-                 layout::Of(name, index));
+  const Ref<Control> filed = window._ControlByNameIndex(name, control->Index());
+  _SetProperties(*RuntimeCheckCast<Declared>(filed), layout::Of(name, index...));
 }
 
 }  // namespace
@@ -38,11 +30,8 @@ void wdwMainClass::CreateControls() {
 }
 
 void wdwMainClass::_CreateControls0() {
-  const Ref<wdwMainClass> self(this);
   Create<Listbox>(*this, "lbContaining");
-  RuntimeAddEventHandler(
-      lbContaining(), Listbox::kChange,
-      RuntimeCreateDelegate<&wdwMainClass::lbContaining_Change>(self, "( Listbox )"));
+  _Wire<&wdwMainClass::lbContaining_Change>(lbContaining(), Listbox::kChange, "( Listbox )");
   for (const int index : {0, 1, 2, 4, 6, 8, 10}) _CreateNoteBox(index);
   _CreateStar(9);
   for (const int index : {3, 5, 7, 9, 11}) _CreateNoteBox(index);
@@ -52,50 +41,30 @@ void wdwMainClass::_CreateControls0() {
   Create<Label>(*this, "Label2");
   Create<Label>(*this, "Label3");
   Create<PopupMenu>(*this, "pmRoot");
-  RuntimeAddEventHandler(
-      pmRoot(), PopupMenu::kChange,
-      RuntimeCreateDelegate<&wdwMainClass::pmRoot_Change>(self, "( PopupMenu )"));
+  _Wire<&wdwMainClass::pmRoot_Change>(pmRoot(), PopupMenu::kChange, "( PopupMenu )");
   Create<Label>(*this, "Label4");
   for (const int index : {0, 1, 2, 5, 3, 6, 4, 7, 10}) _CreateStar(index);
 }
 
 void wdwMainClass::_CreateControls1() {
-  const Ref<wdwMainClass> self(this);
   for (const int index : {8, 11}) _CreateStar(index);
   Create<Label>(*this, "lbScale");
   Create<CheckBox>(*this, "cbOther");
-  RuntimeAddEventHandler(
-      cbOther(), CheckBox::kAction,
-      RuntimeCreateDelegate<&wdwMainClass::cbOther_Action>(self, "( CheckBox )"));
+  _Wire<&wdwMainClass::cbOther_Action>(cbOther(), CheckBox::kAction, "( CheckBox )");
   Create<CheckBox>(*this, "cbRinL");
-  RuntimeAddEventHandler(cbRinL(), CheckBox::kAction,
-                         RuntimeCreateDelegate<&wdwMainClass::cbRinL_Action>(self, "( CheckBox )"));
+  _Wire<&wdwMainClass::cbRinL_Action>(cbRinL(), CheckBox::kAction, "( CheckBox )");
 }
 
 void wdwMainClass::_CreateNoteBox(std::int64_t index) {
-  CreateMember<cbScaleClass, CheckBox>(*this, "cbScale", index);
-  _WireNoteBox(cbScale(index));
+  Create<cbScaleClass, CheckBox>(*this, "cbScale", index);
+  _Wire<&wdwMainClass::cbScale_Action>(cbScale(index), CheckBox::kAction, "( CheckBox )");
+  _Wire<&wdwMainClass::cbScale_Open>(cbScale(index), CheckBox::kOpen, "( CheckBox )");
 }
 
 void wdwMainClass::_CreateStar(std::int64_t index) {
-  CreateMember<lbStarClass, Label>(*this, "lbStar", index);
+  Create<lbStarClass, Label>(*this, "lbStar", index);
   lbStar(index)->_Spoken("In the chosen scale.");
-  _WireStar(lbStar(index));
-}
-
-void wdwMainClass::_WireNoteBox(const Ref<CheckBox>& box) {
-  const Ref<wdwMainClass> self(this);
-  RuntimeAddEventHandler(
-      box, CheckBox::kAction,
-      RuntimeCreateDelegate<&wdwMainClass::cbScale_Action>(self, "( CheckBox )"));
-  RuntimeAddEventHandler(box, CheckBox::kOpen,
-                         RuntimeCreateDelegate<&wdwMainClass::cbScale_Open>(self, "( CheckBox )"));
-}
-
-void wdwMainClass::_WireStar(const Ref<Label>& star) {
-  RuntimeAddEventHandler(
-      star, Label::kOpen,
-      RuntimeCreateDelegate<&wdwMainClass::lbStar_Open>(Ref<wdwMainClass>(this), "( Label )"));
+  _Wire<&wdwMainClass::lbStar_Open>(lbStar(index), Label::kOpen, "( Label )");
 }
 
 Ref<Listbox> wdwMainClass::lbContaining() const {
