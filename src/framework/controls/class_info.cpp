@@ -7,7 +7,6 @@ namespace framework {
 const PropertyInfo* ClassInfo::FindProperty(std::string_view property) const {
   for (const ClassInfo* level = this; level != nullptr; level = level->base) {
     for (const PropertyInfo& candidate : level->properties) {
-      if (candidate.name.size() != property.size()) continue;
       if (RuntimeStringCompare(candidate.name, property) == 0) return &candidate;
     }
   }

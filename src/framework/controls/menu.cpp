@@ -27,8 +27,8 @@ bool MenuItem::Holds(const MenuItem& item) const {
 
 Ref<MenuItem> MenuItem::Child(std::string_view name) const {
   _UITrap();
-  for (std::int64_t i = 0; i <= children_.LastIndex(); ++i) {
-    if (RuntimeStringCompare(children_[i]->Name(), name) == 0) return children_[i];
+  for (const Ref<MenuItem>& child : children_._Items()) {
+    if (RuntimeStringCompare(child->Name(), name) == 0) return child;
   }
   return nullptr;
 }
@@ -36,24 +36,24 @@ Ref<MenuItem> MenuItem::Child(std::string_view name) const {
 Ref<MenuItem> MenuItem::_Lookup(std::string_view name) const {
   _UITrap();
   if (Ref<MenuItem> child = Child(name)) return child;
-  for (std::int64_t i = 0; i <= children_.LastIndex(); ++i) {
-    if (Ref<MenuItem> found = children_[i]->_Lookup(name)) return found;
+  for (const Ref<MenuItem>& child : children_._Items()) {
+    if (Ref<MenuItem> found = child->_Lookup(name)) return found;
   }
   return nullptr;
 }
 
 void MenuItem::_DisableEntirely() {
   _UITrap();
-  for (std::int64_t i = 0; i <= children_.LastIndex(); ++i) {
-    children_[i]->Enabled(false);
-    children_[i]->_DisableEntirely();
+  for (const Ref<MenuItem>& child : children_._Items()) {
+    child->Enabled(false);
+    child->_DisableEntirely();
   }
 }
 
 void MenuItem::_SelfEnable() {
   _UITrap();
   if (AutoEnable() && (HandlesAction() || children_.LastIndex() >= 0)) Enabled(true);
-  for (std::int64_t i = 0; i <= children_.LastIndex(); ++i) children_[i]->_SelfEnable();
+  for (const Ref<MenuItem>& child : children_._Items()) child->_SelfEnable();
 }
 
 void MenuItem::Choose() {
