@@ -8,9 +8,12 @@ namespace framework {
 
 namespace {
 
-/// The entry beside the running executable; nil unless it exists.
+/// The entry beside the running executable; nil unless it exists and an application object is
+/// registered.
 Ref<FolderItem> BesideExecutable(const String& name) {
-  Ref<FolderItem> folder = getAppObject()->ExecutableFile()->Parent()->Child(name);
+  const Ref<Application> app = getAppObject();
+  if (!app) return nullptr;
+  Ref<FolderItem> folder = app->ExecutableFile()->Parent()->Child(name);
   return folder && folder->Exists() ? folder : nullptr;
 }
 
@@ -20,51 +23,39 @@ String _AppName() {
 }
 
 Ref<FolderItem> _WinLinAppResources() {
-  if (!getAppObject()) return nullptr;
   return BesideExecutable(RuntimeAddString(_AppName(), " Resources"));
 }
 
-Ref<FolderItem> _WinLinResources() {
-  if (!getAppObject()) return nullptr;
-  return BesideExecutable("Resources");
-}
+Ref<FolderItem> _WinLinResources() { return BesideExecutable("Resources"); }
 
 /// The special folders as a desktop program has them.
-class _SpecialFolderDesktop {
- public:
-  explicit _SpecialFolderDesktop(std::unique_ptr<BundlePlatform> bundles)
-      : bundles_(std::move(bundles)) {}
+struct _SpecialFolderDesktop {
+  std::unique_ptr<BundlePlatform> bundles;  ///< nullptr on a platform without bundles
+  Ref<FolderItem> mResourcesFolder;
 
   Ref<FolderItem> Resources() {
-    if (mResourcesFolder && mResourcesFolder->Exists()) return mResourcesFolder;
-    mResourcesFolder = bundles_ != nullptr ? GetFolderItem(bundles_->ResourcePath()) : Beside();
+    if (!mResourcesFolder || !mResourcesFolder->Exists()) mResourcesFolder = Find();
     return mResourcesFolder;
   }
-
- private:
-  static Ref<FolderItem> Beside() {
-    if (Ref<FolderItem> own = _WinLinAppResources()) return own;
-    return _WinLinResources();
+  Ref<FolderItem> Find() const {
+    if (bundles != nullptr) return GetFolderItem(bundles->ResourcePath());
+    const Ref<FolderItem> own = _WinLinAppResources();
+    return own ? own : _WinLinResources();
   }
-
-  std::unique_ptr<BundlePlatform> bundles_;
-  Ref<FolderItem> mResourcesFolder;
 };
 
 /// The one object that answers for the special folders, made at the first use.
-std::unique_ptr<_SpecialFolderDesktop>& _PlatformSpecialFolder() {
-  static auto& folder = *new std::unique_ptr(std::make_unique<_SpecialFolderDesktop>(nullptr));
+_SpecialFolderDesktop& _SpecFold() {
+  static auto& folder = *new _SpecialFolderDesktop;
   return folder;
 }
-
-_SpecialFolderDesktop& _SpecFold() { return *_PlatformSpecialFolder(); }
 
 }  // namespace
 
 Ref<FolderItem> SpecialFolder::Resources() { return _SpecFold().Resources(); }
 
 void SpecialFolder::_SetBundlePlatform(std::unique_ptr<BundlePlatform> platform) {
-  _PlatformSpecialFolder() = std::make_unique<_SpecialFolderDesktop>(std::move(platform));
+  _SpecFold() = {std::move(platform), nullptr};
 }
 
 Ref<FolderItem> GetResource(const String& name) {
