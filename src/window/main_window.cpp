@@ -15,6 +15,11 @@ using namespace framework;
 constinit const ClassInfo wdwMainClass::kClass{
     "wdwMain.wdwMain", &framework::Window::kClass, {}, {}};
 
+wdwMainClass::~wdwMainClass() {
+  Labels_ = Array<String>();
+  Scale_ = pitch::Scales();
+}
+
 void wdwMainClass::Layout() {
   MenuBar(menu::MainMenuBar());
   _SetProperties(*this, layout::MainWindow());

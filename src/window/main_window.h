@@ -13,9 +13,21 @@ class wdwMainClass final : public framework::Window, public matching::SearchWind
   const framework::ClassInfo& _Class() const override { return kClass; }
   static const framework::ClassInfo kClass;
 
+  /// Lets go of the note names, then of the library.
+  ~wdwMainClass() override;
+
   const framework::Array<framework::String>& Labels() const override { return Labels_; }
   const pitch::Scales& Scale() const override { return Scale_; }
 
+  /// Takes the menu bar, then the window's block.
+  void Layout() override;
+  void CreateControls() override;
+
+ private:
+  void _CreateControls0();
+  void _CreateControls1();
+
+ public:
   // The controls, looked up at each call. NilObjectException is the caller's, at the use of one
   // that is not there.
   framework::Ref<framework::Listbox> lbContaining() const override;
@@ -55,6 +67,9 @@ class wdwMainClass final : public framework::Window, public matching::SearchWind
   framework::Ref<framework::MenuItem> FileMenu() const;
   framework::Ref<framework::QuitMenuItem> FileQuit() const;
 
+  /// Loads the library, fills Labels and names the boxes after the root. It compares nothing: both
+  /// lists are empty until the user acts.
+  void Event_Open() override;
   /// Rebuilds both lists from the ticks.
   void CompareScales();
   /// Hides all twelve stars. In spite of its name it leaves the boxes alone.
@@ -71,16 +86,7 @@ class wdwMainClass final : public framework::Window, public matching::SearchWind
         framework::RuntimeCreateDelegate<kHandler>(framework::Ref<wdwMainClass>(this), signature));
   }
 
- protected:
-  void Layout() override;
-  void CreateControls() override;
-  /// Loads the library, fills Labels and names the boxes after the root. It compares nothing: both
-  /// lists are empty until the user acts.
-  void Event_Open() override;
-
  private:
-  void _CreateControls0();
-  void _CreateControls1();
   void _CreateNoteBox(std::int64_t index);
   void _CreateStar(std::int64_t index);
   void NameBoxes();
