@@ -7,6 +7,10 @@ namespace window {
 
 using framework::Ref;
 
+constinit const framework::ClassInfo cbScaleClass::kClass{
+    "wdwMain.cbScale", &CheckBox::kClass, {}, {}};
+constinit const framework::ClassInfo lbStarClass::kClass{"wdwMain.lbStar", &Label::kClass, {}, {}};
+
 void cbScaleClass::Constructor() {
   _SetProperties(*this, layout::Of("cbScale", 0));
   const auto owner = framework::RuntimeCheckCast<wdwMainClass>(Window());

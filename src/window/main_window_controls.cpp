@@ -63,7 +63,6 @@ void wdwMainClass::_CreateNoteBox(std::int64_t index) {
 
 void wdwMainClass::_CreateStar(std::int64_t index) {
   Create<lbStarClass, Label>(*this, "lbStar", index);
-  lbStar(index)->_Spoken("In the chosen scale.");
   _Wire<&wdwMainClass::lbStar_Open>(lbStar(index), Label::kOpen, "( Label )");
 }
 

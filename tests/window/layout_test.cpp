@@ -85,7 +85,7 @@ TEST_F(OpenedWindow, HasItsControlsAndMenusInOrder) {
 
 TEST_F(OpenedWindow, TakesAMemberMadeAtRunTime) {
   Open();
-  const auto box = window_->__New<window::cbScaleClass>();
+  const Ref<CheckBox> box = window_->__New<window::cbScaleClass>();
   box->Constructor();
   EXPECT_EQ(Described(box), Described(window_->cbScale(0)));
   window_->cbScale(4)->Toggle();
@@ -94,7 +94,7 @@ TEST_F(OpenedWindow, TakesAMemberMadeAtRunTime) {
   EXPECT_EQ(Stars(), "000000000000") << "its Action has the set's handler";
   EXPECT_THAT(toolkit_.Lines(), testing::Contains("cbScale(0).Value")) << "it is on the screen";
 
-  const auto star = window_->__New<window::lbStarClass>();
+  const Ref<RectControl> star = window_->__New<window::lbStarClass>();
   star->Constructor();
   EXPECT_EQ(star->Top(), 458) << "the place of the star that was made first";
   EXPECT_FALSE(star->Parent()) << "its Open has the set's handler";

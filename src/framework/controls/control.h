@@ -52,7 +52,7 @@ class RectControl : public Control {
 
   /// Finishes a control that the window's __New made. In a window that is open already, the control
   /// gets its Open event and comes on the screen.
-  void Constructor();
+  virtual void Constructor();
 
   Property<std::int64_t> Left{*this, Change::Frame};
   Property<std::int64_t> Top{*this, Change::Frame};

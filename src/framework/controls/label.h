@@ -20,7 +20,7 @@ class Label : public RectControl {
   /// Black stands for the platform's text colour.
   Property<Color> TextColor{*this, Change::Look};
   /// What is read out to someone who cannot see the label; empty for the text as it stands.
-  Property<String> _Spoken{*this, Change::Text};
+  virtual String _Spoken() const { return {}; }
 };
 
 }  // namespace framework
