@@ -86,6 +86,22 @@ TEST_F(Controls, AreFoundByNameAndIndexAlsoAsParents) {
   EXPECT_EQ(first->InitialParent().View(), "box$3");
 }
 
+/// An entry that works, and says in its EnableMenu that it does not.
+struct Reluctant final : MenuItem {
+  bool HandlesAction() const override { return true; }
+  void EnableMenu() override { Enabled(false); }
+};
+
+TEST_F(Controls, OfAMenuHaveTheLastWordOnTheirEnabling) {
+  const auto title = RuntimeNewObject<MenuItem>();
+  const auto item = RuntimeNewObject<Reluctant>();
+  for (const Ref<MenuItem>& each : {title, Ref<MenuItem>(item)}) each->AutoEnable(true);
+  title->Append(item);
+  title->_SelfEnable();
+  EXPECT_TRUE(title->Enabled());
+  EXPECT_FALSE(item->Enabled());
+}
+
 TEST_F(Controls, RefuseWhatDoesNotFit) {
   EXPECT_THROW(RuntimeAddEventHandler(box_, 99, ticked_), FunctionNotFoundException);
   EXPECT_THROW(RuntimeAddEventHandler(list_, Listbox::kOpen, ticked_), TypeMismatchException);

@@ -53,7 +53,9 @@ void MenuItem::_DisableEntirely() {
 void MenuItem::_SelfEnable() {
   _UITrap();
   if (AutoEnable() && (HandlesAction() || children_.LastIndex() >= 0)) Enabled(true);
-  for (const Ref<MenuItem>& child : children_._Items()) child->_SelfEnable();
+  EnableMenu();
+  // Not by range: a handler of the program's may add items.
+  for (std::int64_t i = 0; i <= children_.LastIndex(); ++i) children_[i]->_SelfEnable();
 }
 
 void MenuItem::Choose() {

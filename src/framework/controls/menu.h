@@ -37,7 +37,8 @@ class MenuItem : public Mirrored {
 
   /// Disables every item below this one, but not this one itself.
   void _DisableEntirely();
-  /// Enables this item if its AutoEnable rule says so, and those below it likewise.
+  /// Enables this item if its AutoEnable rule says so, then raises its EnableMenu; and those below
+  /// it likewise.
   void _SelfEnable();
 
   /// The user's input: raises Action, if the item is enabled.
@@ -47,6 +48,9 @@ class MenuItem : public Mirrored {
   /// The Action event; true when it was handled. An item without a handler has nothing to do.
   virtual bool Action() { return false; }
   virtual bool HandlesAction() const { return false; }
+  /// The EnableMenu event: the item may be shown soon, and its handler has the last word on
+  /// Enabled.
+  virtual void EnableMenu() {}
 
  private:
   /// Whether an item is this one or stands below it.
