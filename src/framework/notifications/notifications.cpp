@@ -34,12 +34,12 @@ void SendToClients() {
   const auto& NotificationQueue = State().NotificationQueue;
   if (NotificationQueue.LastIndex() < 0) return;
   while (NotificationQueue.LastIndex() >= 0) {
-    const String name = NotificationQueue[0];
     // The last index is read afresh: a client may register another.
     for (std::int64_t i = 0; i <= dispatchTo.LastIndex(); ++i) {
       if (!dispatchTo[i]) continue;
       const Ref<Object> client = dispatchTo[i]->Value();
       if (!client) continue;
+      const String name = NotificationQueue[0];
       static_cast<iNotify&>(*client)._MacOSNotificationReceived(name);
     }
     NotificationQueue.Remove(0);
