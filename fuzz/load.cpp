@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include "check/characters.h"
+#include "check/check_library.h"
 #include "framework/application/runtime.h"
 #include "framework/application/special_folder.h"
 #include "framework/values/failures.h"
@@ -11,6 +13,7 @@
 #include "toolkit/memory/memory_toolkit.h"
 
 // The loader: from the bytes of a library file, however they come, to the scales and the failure.
+// And the checker, which foretells that.
 
 using namespace framework;
 using namespace fuzz;
@@ -91,12 +94,26 @@ std::string Found(toolkit::memory::MemoryToolkit& toolkit) {
   return text + end;
 }
 
+/// Whether the checker says that the loading stops. What it says is text, whatever the bytes are.
+bool IsSaidToStop() {
+  const auto file = SpecialFolder::Resources()->Child(library::kFileName);
+  const auto stream = TextInputStream::Open(file);
+  const auto look = [](const check::Fault& fault) {
+    Expect("place without text", check::FindNoText(check::Text(fault)), std::string::npos);
+  };
+  return check::CheckLibrary(*stream, look).errors > 0;
+}
+
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size < 2) return 0;
   static Program program;
   const ScriptedFile file(Text(data, size));
-  Expect("library", Found(program.toolkit), Wanted(file));
+  const std::string found = Found(program.toolkit);
+  Expect("library", found, Wanted(file));
+  if (file.Fails()) return 0;
+  const ScriptedFile again(Text(data, size));
+  Expect("stop", IsSaidToStop(), found.find("OutOfBoundsException: ") != found.npos);
   return 0;
 }

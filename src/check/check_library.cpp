@@ -1,103 +1,93 @@
 #include "check/check_library.h"
 
-#include <algorithm>
 #include <map>
-#include <set>
-#include <string>
-#include <string_view>
-#include <utility>
 #include <vector>
 
-#include "check/characters.h"
 #include "check/check_line.h"
-#include "framework/values/text.h"
-#include "pitch/tscale.h"
+#include "check/names.h"
+#include "check/writing.h"
 
 namespace check {
 
 namespace {
 
-using framework::String;
-
-/// An order that goes with the program's equality of texts.
-struct TextLess {
-  bool operator()(const String& a, const String& b) const {
-    return std::ranges::lexicographical_compare(a.View(), b.View(), {}, &framework::Folded,
-                                                &framework::Folded);
-  }
-};
-
-/// The first scale of its bank that had something, a name or a set of notes.
-struct First {
-  std::int64_t line;
-  String name;
-};
-
-/// By bank and that something, as one text: neither can hold the comma between them.
-using Firsts = std::map<String, First, TextLess>;
-
-/// What can be said of a scale only by those before it.
-class Comparison {
+/// Counts faults, and hands on those that are to be told.
+class Tally {
  public:
-  std::vector<Fault> Add(const Line& line) {
-    pitch::TScale scale;
-    scale.Constructor(line.fields);
-    banks_.insert(scale.Bank());
+  Tally(Summary& summary, const std::function<void(const Fault&)>& report)
+      : summary_(summary), report_(report) {}
 
-    const std::size_t name = line.Start(1);
-    const First here{line.number, scale.Scale()};
-    const auto first_with = [&](Firsts& firsts, const String& what) {
-      const String bank = framework::RuntimeAddString(scale.Bank(), ",");
-      return firsts.try_emplace(framework::RuntimeAddString(bank, what), here).first->second;
-    };
-    if (const First first = first_with(names_, scale.Scale()); first.line != here.line) {
-      return {line.At(
-          name, Severity::kWarning,
-          "the name " + Quoted(first.name) + " again, as on line " + std::to_string(first.line),
-          "no name twice in a bank")};
+  void Add(const std::vector<Fault>& faults) {
+    for (const Fault& fault : faults) {
+      Count(fault.severity);
+      Rest& rest = rests_[fault.kind];
+      if (++rest.count <= kToldOfAKind) report_(fault);
+      rest.severity = fault.severity;
     }
-    const First first = first_with(notes_, framework::Str(scale.Notes()));
-    if (first.line == here.line) return {};
-    return {line.At(name, Severity::kRemark,
-                    "the notes of " + Quoted(first.name) + " on line " + std::to_string(first.line),
-                    "")};
   }
 
-  std::int64_t Banks() const { return static_cast<std::int64_t>(banks_.size()); }
+  void TellRest() const {
+    for (const auto& [kind, rest] : rests_) {
+      if (rest.count <= kToldOfAKind) continue;
+      report_({Kind::kRest, rest.severity, 0, 0,
+               std::to_string(rest.count - kToldOfAKind) + " more " + std::string(Words(kind)),
+               ""});
+    }
+  }
 
  private:
-  std::set<String, TextLess> banks_;
-  Firsts names_;
-  Firsts notes_;
+  struct Rest {
+    std::int64_t count = 0;  ///< also of those that were told
+    Severity severity{};
+  };
+
+  void Count(Severity severity) {
+    if (severity == Severity::kError) ++summary_.errors;
+    if (severity == Severity::kWarning) ++summary_.warnings;
+    if (severity == Severity::kRemark) ++summary_.remarks;
+  }
+
+  Summary& summary_;
+  const std::function<void(const Fault&)>& report_;
+  std::map<Kind, Rest> rests_;
 };
+
+Lines AllLines(framework::TextInputStream& library) {
+  Lines lines;
+  while (!library.EOF_()) lines.push_back(library.ReadLine());
+  return lines;
+}
 
 }  // namespace
 
 Summary CheckLibrary(framework::TextInputStream& library,
                      const std::function<void(const Fault&)>& report) {
   Summary summary;
-  const auto take = [&](const std::vector<Fault>& faults) {
-    for (const Fault& fault : faults) {
-      if (fault.severity == Severity::kError) ++summary.errors;
-      if (fault.severity == Severity::kWarning) ++summary.warnings;
-      if (fault.severity == Severity::kRemark) ++summary.remarks;
-      report(fault);
-    }
-  };
+  Tally tally(summary, report);
+  const Lines lines = AllLines(library);
+  const Writing writing = WritingOf(lines);
+  tally.Add(CheckWriting(lines, writing));
+  if (writing.is_utf16) return summary;
 
-  Comparison comparison;
-  library.ReadLine();
-  library.ReadLine();
-  for (std::int64_t number = 3; !library.EOF_(); ++number) {
-    const String text = library.ReadLine();
-    const Line line{number, library.EOF_(), text, framework::Split(text, ",")};
-    take(CheckLine(line));
-    if (!line.Loads()) continue;
+  Names names;
+  for (std::size_t i = kFirstLine - 1; i < lines.size(); ++i) {
+    const Fields fields = writing.Cut(lines[i]);
+    const Line line{static_cast<std::int64_t>(i) + 1, i + 1 == lines.size(), lines[i], fields,
+                    writing.Meant(fields)};
+    tally.Add(CheckLine(line));
+    if (!line.IsScale()) continue;
     ++summary.scales;
-    take(comparison.Add(line));
+    tally.Add(names.Add(line));
   }
-  summary.banks = comparison.Banks();
+  summary.banks = names.Banks();
+  tally.TellRest();
   return summary;
+}
+
+std::string Text(const Summary& summary) {
+  return Counted(summary.scales, "scale") + " in " + Counted(summary.banks, "bank") + ": " +
+         Counted(summary.errors, "error") + ", " + Counted(summary.warnings, "warning") + ", " +
+         Counted(summary.remarks, "remark");
 }
 
 }  // namespace check

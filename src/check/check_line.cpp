@@ -1,5 +1,6 @@
 #include "check/check_line.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -14,15 +15,7 @@ namespace {
 
 using pitch::kPositions;
 
-constexpr std::int64_t kFirstPosition = kFields - kPositions;
-
 using Faults = std::vector<Fault>;
-
-bool Says(std::string_view field, std::string_view word) {
-  return framework::RuntimeStringCompare(field, word) == 0;
-}
-
-bool IsFlag(std::string_view field) { return Says(field, "TRUE") || Says(field, "FALSE"); }
 
 std::string_view WithoutBlanks(std::string_view text) {
   constexpr std::string_view kBlanks = " \t";
@@ -41,63 +34,79 @@ std::string Place(std::int64_t position) {
 void CheckText(const Line& line, Faults& faults) {
   const std::string_view text = line.text;
   if (const auto at = FindNoText(text); at != text.npos) {
-    faults.push_back(
-        line.At(at, Severity::kWarning, "the byte " + Escaped(text[at]), "text in UTF-8"));
+    faults.push_back(line.At(at, Kind::kNoUtf8, Severity::kWarning, "the byte " + Escaped(text[at]),
+                             "text in UTF-8"));
   }
 }
 
-/// The writer of a file with semicolons or tabs sees its columns, and needs to be told.
-std::string OtherSeparator(std::string_view text) {
+bool IsBlank(const Fields& fields) {
+  for (std::int64_t i = 0; i <= fields.LastIndex(); ++i) {
+    if (!WithoutBlanks(fields[i]).empty()) return false;
+  }
+  return true;
+}
+
+Fault BlankLine(const Line& line) {
+  const char* const found = line.last ? "a blank line at the end" : "a blank line";
+  const char* const expected =
+      line.last ? "the end of the file right behind the last scale" : "a scale";
+  // A row that a spreadsheet program left behind has commas enough to load, as a scale of nothing.
+  if (line.IsScale()) return line.At(0, Kind::kBlankRow, Severity::kWarning, found, expected);
+  return line.At(0, Kind::kBlankLine, Severity::kError, found, expected);
+}
+
+/// The writer of a line with semicolons or tabs sees its columns, and needs to be told.
+std::string OtherSeparator(const Line& line) {
+  const std::string_view text = line.text;
+  const bool is_cut_there = std::count(text.begin(), text.end(), ',') < line.fields.LastIndex();
+  if (is_cut_there) return "";
   if (text.find(';') != text.npos) return " (semicolons?)";
   if (text.find('\t') != text.npos) return " (tabs?)";
   return "";
 }
 
 void CheckName(const Line& line, std::int64_t field, const std::string& what, Faults& faults) {
-  const std::string_view name = line.fields[field];
+  const std::string_view name = line.cells[field];
   const std::string_view bare = WithoutBlanks(name);
-  const std::size_t start = line.Start(field);
+  const std::size_t marks = line.fields[field].View().size() - name.size();  // around the name
+  const std::size_t start = line.Start(field) + marks / 2;
+  const auto add = [&](std::size_t at, Kind kind, const std::string& found,
+                       const std::string& expected) {
+    faults.push_back(line.At(at, kind, Severity::kWarning, found, expected));
+  };
   if (bare.empty()) {
-    faults.push_back(line.At(start, Severity::kWarning, "no " + what, "a " + what));
+    add(start, Kind::kNoName, "no " + what, "a " + what);
   } else if (bare.size() < name.size()) {
-    faults.push_back(line.At(start, Severity::kWarning, "the " + what + " " + Quoted(name),
-                             Quoted(bare) + ", without a blank beside it"));
+    add(start, Kind::kBlankBesideName, "the " + what + " " + Quoted(name),
+        Quoted(bare) + ", without a blank beside it");
   }
   if (const auto at = name.find('"'); at != name.npos) {
-    faults.push_back(line.At(start + at, Severity::kWarning, "a quotation mark in the " + what,
-                             "none: the program would show it"));
+    add(start + at, Kind::kQuotationMark, "a quotation mark in the " + what,
+        "none: the program would show it");
   }
-}
-
-/// Whether the twelve notes stand in the fields from first on.
-bool NotesBeginAt(const Line& line, std::int64_t first) {
-  for (std::int64_t i = 0; i < kPositions; ++i) {
-    if (!IsFlag(line.fields[first + i])) return false;
-  }
-  return true;
 }
 
 /// True for the usual cause of surplus fields, a comma in what was meant as one name: the twelve
 /// notes are the line's last fields, and not where they should be.
 bool HasCommaInName(const Line& line, std::int64_t surplus) {
-  return surplus > 0 && !IsFlag(line.fields[kFirstPosition]) &&
-         NotesBeginAt(line, kFirstPosition + surplus);
+  return surplus > 0 && !IsFlag(line.cells[kFirstNote]) && line.NotesBeginAt(kFirstNote + surplus);
 }
 
 void CheckNotes(const Line& line, Faults& faults) {
   for (std::int64_t position = 0; position < kPositions; ++position) {
-    const std::int64_t field = kFirstPosition + position;
-    const std::string_view text = line.fields[field];
-    const auto fault = [&](const std::string& expected) {
-      faults.push_back(line.At(line.Start(field), Severity::kWarning,
-                               Quoted(text) + " at " + Place(position), expected));
+    const std::int64_t field = kFirstNote + position;
+    const std::string_view text = line.cells[field];
+    const auto add = [&](Kind kind, const std::string& expected) {
+      faults.push_back(line.At(line.Start(field), kind, Severity::kWarning,
+                               Quoted(line.fields[field]) + " at " + Place(position), expected));
     };
     if (IsFlag(text)) {
-      if (position == 0 && Says(text, "FALSE")) fault("TRUE: a scale holds its root");
+      const bool is_false = framework::RuntimeStringCompare(text, "FALSE") == 0;
+      if (position == 0 && is_false) add(Kind::kNoRoot, "TRUE: a scale holds its root");
     } else if (const std::string_view bare = WithoutBlanks(text); IsFlag(bare)) {
-      fault(std::string(bare) + ", without a blank beside it");
+      add(Kind::kBlankBesideWord, std::string(bare) + ", without a blank beside it");
     } else {
-      fault("TRUE or FALSE");
+      add(Kind::kNeitherWord, "TRUE or FALSE");
     }
   }
 }
@@ -110,33 +119,29 @@ std::size_t Line::Start(std::int64_t field) const {
   return offset;
 }
 
-Fault Line::At(std::size_t offset, Severity severity, std::string found,
-               std::string expected) const {
-  return {severity, number, CountCharacters(text.View().substr(0, offset)) + 1, std::move(found),
-          std::move(expected)};
+bool Line::NotesBeginAt(std::int64_t first) const {
+  for (std::int64_t i = 0; i < kPositions; ++i) {
+    if (!IsFlag(cells[first + i])) return false;
+  }
+  return true;
 }
 
-std::string Counted(std::int64_t count, const std::string& noun) {
-  return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+Fault Line::At(std::size_t offset, Kind kind, Severity severity, std::string found,
+               std::string expected) const {
+  const std::int64_t column = CountCharacters(text.View().substr(0, offset)) + 1;
+  return {kind, severity, number, column, std::move(found), std::move(expected)};
 }
 
 std::vector<Fault> CheckLine(const Line& line) {
-  const std::string_view text = line.text;
+  if (IsBlank(line.fields)) return {BlankLine(line)};
+
   const std::int64_t count = line.fields.LastIndex() + 1;
   const std::string fields = std::to_string(kFields);
-  if (text.find_first_not_of(" \t,") == text.npos) {
-    // A row that a spreadsheet program left behind has commas enough to load, as a scale of
-    // nothing.
-    return {line.At(0, line.Loads() ? Severity::kWarning : Severity::kError,
-                    line.last ? "a blank line at the end" : "a blank line",
-                    line.last ? "the end of the file right behind the last scale" : "a scale")};
-  }
-
   Faults faults;
   CheckText(line, faults);
-  if (!line.Loads()) {
-    faults.push_back(line.At(text.size(), Severity::kError,
-                             Counted(count, "field") + OtherSeparator(text),
+  if (!line.IsScale()) {
+    faults.push_back(line.At(line.text.View().size(), Kind::kFewFields, Severity::kError,
+                             Counted(count, "field") + OtherSeparator(line),
                              fields + ", with commas between them"));
     return faults;
   }
@@ -144,14 +149,15 @@ std::vector<Fault> CheckLine(const Line& line) {
   CheckName(line, 1, "name", faults);
   const std::int64_t surplus = count - kFields;
   if (HasCommaInName(line, surplus)) {
-    faults.push_back(line.At(line.Start(kFirstPosition) - 1, Severity::kWarning,
+    faults.push_back(line.At(line.Start(kFirstNote) - 1, Kind::kCommaInName, Severity::kWarning,
                              Counted(count, "field") + ", the last twelve of them the notes",
                              fields + ": a comma in the bank or in the name?"));
     return faults;
   }
   CheckNotes(line, faults);
   if (surplus > 0) {
-    faults.push_back(line.At(line.Start(kFields), Severity::kWarning, Counted(count, "field"),
+    faults.push_back(line.At(line.Start(kFields), Kind::kSurplusFields, Severity::kWarning,
+                             Counted(count, "field"),
                              fields + ": the program does not read the rest"));
   }
   return faults;

@@ -6,34 +6,31 @@
 #include <vector>
 
 #include "check/fault.h"
-#include "framework/values/array.h"
-#include "framework/values/string.h"
+#include "check/writing.h"
 
 namespace check {
 
-/// Fields that a line must have: bank, name, and the twelve notes.
-inline constexpr std::int64_t kFields = 14;
-
-/// One line of a library, cut as the loader cuts it.
+/// One line of a library.
 struct Line {
   std::int64_t number;  ///< from 1
   bool last;            ///< in its file
   framework::String text;
-  framework::Array<framework::String> fields;
+  Fields fields;  ///< as they stand in the text
+  Fields cells;   ///< what they mean, one for each
 
-  /// Whether the loader makes a scale of it.
-  bool Loads() const { return fields.LastIndex() + 1 >= kFields; }
+  /// Whether there is a scale in it.
+  bool IsScale() const { return fields.LastIndex() + 1 >= kFields; }
+  /// Whether the twelve notes stand in the cells from first on.
+  bool NotesBeginAt(std::int64_t first) const;
   /// Offset in the text of a field's first byte.
   std::size_t Start(std::int64_t field) const;
   /// A fault at that offset of the text.
-  Fault At(std::size_t offset, Severity severity, std::string found, std::string expected) const;
+  Fault At(std::size_t offset, Kind kind, Severity severity, std::string found,
+           std::string expected) const;
 };
 
-/// "1 field", "2 fields".
-std::string Counted(std::int64_t count, const std::string& noun);
-
-/// What is wrong with a line by itself. In a line that does not load nothing is said of its fields
-/// but that they are too few.
+/// What is wrong with a line by itself. In a line without a scale nothing is said of its fields but
+/// that they are too few.
 std::vector<Fault> CheckLine(const Line& line);
 
 }  // namespace check

@@ -1,9 +1,11 @@
-#include <iostream>
+#include <cstdio>
 
 #include "check/run.h"
 
 int main(int argc, char** argv) {
-  std::ios::sync_with_stdio(false);
   const std::span arguments(argv, static_cast<std::size_t>(argc));
-  return check::Run(arguments.subspan(argc > 0 ? 1 : 0), std::cout, std::cerr);
+  const auto print_to = [](std::FILE* file) {
+    return [file](std::string_view text) { std::fwrite(text.data(), 1, text.size(), file); };
+  };
+  return check::Run(arguments.subspan(argc > 0 ? 1 : 0), print_to(stdout), print_to(stderr));
 }

@@ -1,11 +1,9 @@
 #include "check/run.h"
 
 #include <string>
-#include <string_view>
 #include <system_error>
 
 #include "check/check_library.h"
-#include "check/check_line.h"
 #include "framework/files/folder_item.h"
 #include "framework/values/failures.h"
 
@@ -15,50 +13,36 @@ using namespace framework;
 
 namespace {
 
-std::string_view Word(Severity severity) {
-  switch (severity) {
-    case Severity::kRemark:
-      return "remark";
-    case Severity::kWarning:
-      return "warning";
-    case Severity::kError:
-      break;
-  }
-  return "error";
+std::string Where(const Fault& fault) {
+  if (fault.line == 0) return "";
+  return std::to_string(fault.line) + ":" + std::to_string(fault.column) + ":";
 }
 
-void Print(std::ostream& out, std::string_view path, const Fault& fault) {
-  out << path << ':' << fault.line << ':' << fault.column << ": " << Word(fault.severity)
-      << ": found " << fault.found;
-  if (!fault.expected.empty()) out << ", expected " << fault.expected;
-  out << '\n';
-}
-
-void Print(std::ostream& out, std::string_view path, const Summary& summary) {
-  out << path << ": " << Counted(summary.scales, "scale") << " in "
-      << Counted(summary.banks, "bank") << ": " << Counted(summary.errors, "error") << ", "
-      << Counted(summary.warnings, "warning") << ", " << Counted(summary.remarks, "remark") << '\n';
+/// Raises IOException for what cannot be read.
+int Check(const std::string& path, const Print& out) {
+  const auto library = TextInputStream::Open(RuntimeNewObject<FolderItem>(path));
+  const Summary summary = CheckLibrary(*library, [&](const Fault& fault) {
+    out(path + ":" + Where(fault) + " " + std::string(Word(fault.severity)) + ": " + Text(fault) +
+        "\n");
+  });
+  out(path + ": " + Text(summary) + "\n");
+  if (summary.errors > 0) return kErrors;
+  return summary.warnings > 0 ? kWarnings : kClean;
 }
 
 }  // namespace
 
-int Run(std::span<const char* const> arguments, std::ostream& out, std::ostream& err) {
+int Run(std::span<const char* const> arguments, const Print& out, const Print& err) {
   if (arguments.size() != 1) {
-    err << "usage: orrel-check-library FILE\n";
+    err("usage: orrel-check-library FILE\n");
     return kUnreadable;
   }
-  const std::string_view path = arguments.front();
+  const std::string path = arguments.front();
   try {
-    const auto file = RuntimeNewObject<FolderItem>(path);
-    const auto library = TextInputStream::Open(file);
-    const Summary summary =
-        CheckLibrary(*library, [&](const Fault& fault) { Print(out, path, fault); });
-    Print(out, path, summary);
-    if (summary.errors > 0) return kErrors;
-    return summary.warnings > 0 ? kWarnings : kClean;
+    return Check(path, out);
   } catch (const IOException& failure) {
-    err << path << ": cannot be read: "
-        << std::system_category().message(static_cast<int>(failure.ErrorNumber())) << '\n';
+    err(path + ": cannot be read: " +
+        std::system_category().message(static_cast<int>(failure.ErrorNumber())) + "\n");
     return kUnreadable;
   }
 }

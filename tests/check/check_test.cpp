@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <random>
+#include <regex>
 #include <sstream>
 
 #include "check/characters.h"
@@ -14,18 +15,34 @@
 namespace {
 
 using namespace framework;
+using testing::ElementsAreArray;
 using testing::HasSubstr;
 using testing::Pair;
+using testing::StartsWith;
 
 const std::string kNotes = ",TRUE,FALSE,FALSE,FALSE,TRUE,FALSE,FALSE,TRUE,FALSE,FALSE,FALSE,FALSE";
 const std::string kMajor = "Triads,maj" + kNotes;
 
 /// The status, and all that is printed.
-std::pair<int, std::string> Check(const std::string& path) {
-  std::ostringstream out;
-  const char* const arguments[] = {path.c_str()};
-  const int status = check::Run(arguments, out, out);
-  return {status, out.str()};
+std::pair<int, std::string> Answer(const std::vector<const char*>& arguments) {
+  std::string printed;
+  const auto print = [&](std::string_view text) { printed += text; };
+  const int status = check::Run(arguments, print, print);
+  return {status, printed};
+}
+
+std::pair<int, std::string> Check(const std::string& path) { return Answer({path.c_str()}); }
+
+/// What is said of a library of these bytes, line by line, without the file's name.
+std::vector<std::string> Report(const std::string& library) {
+  const support::Folder folder;
+  folder.Write("library.csv", library);
+  std::istringstream report(Check(folder.Path("library.csv")).second);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(report, line);) {
+    lines.push_back(line.substr(folder.Path("library.csv:").size()));
+  }
+  return lines;
 }
 
 TEST(Checker, SaysOfEachLineWhatIsWrongAndWhere) {
@@ -37,13 +54,103 @@ TEST(Checker, SaysOfEachLineWhatIsWrongAndWhere) {
   }
 }
 
+std::string Replaced(std::string text, std::string_view what, std::string_view with) {
+  for (std::size_t at = 0; (at = text.find(what, at)) != text.npos; at += with.size()) {
+    text.replace(at, what.size(), with);
+  }
+  return text;
+}
+
+/// With quotation marks around banks and names.
+std::string Quoted(const std::string& library) {
+  return std::regex_replace(library, std::regex("(^|\n)([^,\n]+),([^,\n]+)"), "$1\"$2\",\"$3\"");
+}
+
+/// Two bytes for each.
+std::string Wide(const std::string& library, bool zero_first) {
+  std::string wide;
+  for (const char byte : library) {
+    if (zero_first) wide += '\0';
+    wide += byte;
+    if (!zero_first) wide += '\0';
+  }
+  return wide;
+}
+
+TEST(Checker, SaysOnceAndFirstWhatIsWrongWithTheWholeFile) {
+  const std::string good = "Bank,Scale,R,b2,2,b3,3,4,b5,5,b6,6,b7,7\nRules\n" + kMajor +
+                           "\nChords,maj" + kNotes + "\nArpeggios,maj" + kNotes + "\n";
+  const std::string semicolons = Replaced(good, ",", ";");
+  const std::string german = Replaced(Replaced(good, "TRUE", "WAHR"), "FALSE", "FALSCH");
+  const std::string words =
+      R"( warning: found "WAHR" and "FALSCH" for the notes, expected TRUE and FALSE: )"
+      R"(replace "WAHR" by TRUE and "FALSCH" by FALSE)";
+  const std::string three = " 3 scales in 3 banks: ";
+  const std::string none = " 0 scales in 0 banks: ";
+  const struct {
+    const char* name;
+    std::string library;
+    std::vector<std::string> report;  ///< how its lines begin
+  } cases[] = {
+      {"nothing wrong", good, {three + "0 errors, 0 warnings, 0 remarks"}},
+      {"semicolons", semicolons, {" error: found semicolons between", three + "1 error, 0 w"}},
+      {"tabs", Replaced(good, ",", "\t"), {" error: found tabs between", three}},
+      {"other words", german, {words, three + "0 errors, 1 warning,"}},
+      {"one other word",
+       Replaced(good, "FALSE", "FAUX"),
+       {R"( warning: found "FAUX" for the notes, expected TRUE and FALSE: replace "FAUX" by FALSE)",
+        three}},
+      {"an x or nothing",
+       Replaced(Replaced(good, "TRUE", "x"), "FALSE", ""),
+       {R"( warning: found "x" and empty fields for the notes)", three}},
+      {"quotation marks", Quoted(good), {" warning: found quotation marks around", three}},
+      {"all of these",
+       Replaced(Quoted(german), ",", ";"),
+       {" error: found semicolons", " warning: found quotation marks", words, three}},
+      {"a line with a fault of its own",
+       semicolons + "Chords;m;TRUE\n",
+       {" error: found semicolons", "6:14: error: found 3 fields, expected 14", three}},
+      {"what one line has alone",
+       good + Replaced(kMajor, ",", ";"),
+       {"6:80: error: found 1 field (semicolons?)", three}},
+      {"two bytes, the low one first",
+       "\xFF\xFE" + Wide(good, false),
+       {" error: found a file in UTF-16", none}},
+      {"the same without a mark", Wide(good, false), {" error: found a file in UTF-16", none}},
+      {"the high one first, which loads",
+       Wide(good, true),
+       {" warning: found a file in UTF-16", none}},
+      {"form feeds", Replaced(good, "\n", "\f"), {" warning: found all scales on one line", none}},
+      {"line separators",
+       Replaced(semicolons, "\n", "\u2028"),
+       {" warning: found all scales on one line", none}},
+  };
+  for (const auto& [name, library, report] : cases) {
+    std::vector<testing::Matcher<std::string>> lines;
+    for (const std::string& line : report) lines.emplace_back(StartsWith(line));
+    EXPECT_THAT(Report(library), ElementsAreArray(lines)) << name;
+  }
+}
+
+TEST(Checker, TellsTheFirstTwentyOfAKindAndHowManyMoreThereAre) {
+  std::string library = "Bank,Scale\nRules\n";
+  for (int i = 0; i < 23; ++i) library += "Triads ,maj" + std::to_string(i) + kNotes + "\n";
+  const std::vector<std::string> report = Report(library + "Triads,m,TRUE\n");
+  ASSERT_EQ(report.size(), 20U + 20U + 1U + 2U + 1U);
+  EXPECT_THAT(report[37], StartsWith("22:1: warning: found the bank \"Triads \""));
+  EXPECT_THAT(report[39], StartsWith("23:9: remark: found the notes"));
+  EXPECT_THAT(std::vector(report.begin() + 40, report.end()),
+              testing::ElementsAre(StartsWith("26:14: error: found 3 fields"),
+                                   " warning: found 3 more blanks beside a bank or a name",
+                                   " remark: found 2 more notes that their bank has already",
+                                   " 23 scales in 1 bank: 1 error, 23 warnings, 22 remarks"));
+}
+
 TEST(Checker, HasAStatusForWhatCannotBeRead) {
-  const support::Folder folder;
-  EXPECT_THAT(Check(folder.Path("no-such-library.csv")),
+  EXPECT_THAT(Check("no-such-library.csv"),
               Pair(3, HasSubstr("cannot be read: No such file or directory")));
-  EXPECT_THAT(Check(folder.Path()), Pair(3, HasSubstr("cannot be read")));
-  std::ostringstream out;
-  EXPECT_EQ(check::Run({}, out, out), 3);
+  EXPECT_THAT(Check("/"), Pair(3, HasSubstr("cannot be read")));
+  EXPECT_EQ(Answer({}).first, 3);
 }
 
 /// Whether the loader's steps reach the file's end.
@@ -60,22 +167,41 @@ bool Loads(const std::string& path) {
 }
 
 TEST(Checker, ReportsAnErrorExactlyForWhatStopsTheLoading) {
-  const std::string pieces[] = {kMajor, kNotes,  "\n",   "\r", ",",
-                                "\"",   {"", 1}, "\xC3", "\t", "TRUE,FALSE,TRUE,FALSE,TRUE,FALSE,"};
+  // The last of them, whole lines, are what a file needs several of to be wrong as a whole.
+  const std::string pieces[] = {kMajor,
+                                kNotes,
+                                "\n",
+                                "\r",
+                                ",",
+                                "\"",
+                                {"", 1},
+                                "\xC3",
+                                "TRUE,FALSE,TRUE,FALSE,TRUE,FALSE,",
+                                "\t",
+                                "\"a\",b",
+                                ";;;;;;;;;;;;;\n",
+                                Wide(kMajor + "\n", false),
+                                Replaced(kMajor, ",", ";") + "\n"};
   const support::Folder folder;
   const std::string path = folder.Path("library.csv");
   std::mt19937 random(20);
   int loaded = 0;
+  int as_a_whole = 0;
   for (int round = 0; round < 1000; ++round) {
     std::string bytes = "Bank,Scale\nRules\n";
-    for (auto n = random() % 12; n > 0; --n) bytes += pieces[random() % std::size(pieces)];
+    const auto first = random() % std::size(pieces);
+    for (auto n = random() % 12; n > 0; --n) {
+      bytes += pieces[first + random() % (std::size(pieces) - first)];
+    }
     folder.Write("library.csv", bytes);
     const auto [status, report] = Check(path);
     ASSERT_EQ(status != 2, Loads(path)) << check::Quoted(bytes) << report;
     EXPECT_EQ(check::FindNoText(report), std::string::npos);
     loaded += status != 2 ? 1 : 0;
+    as_a_whole += report.rfind(path + ": error", 0) == 0 ? 1 : 0;
   }
-  EXPECT_THAT(loaded, testing::AllOf(testing::Gt(100), testing::Lt(900)));
+  EXPECT_THAT(loaded, testing::AllOf(testing::Gt(50), testing::Lt(950)));
+  EXPECT_THAT(as_a_whole, testing::AllOf(testing::Gt(50), testing::Lt(950)));
 }
 
 TEST(Characters, AreThoseOfUtf8AndNoOthers) {

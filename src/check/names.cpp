@@ -1,0 +1,61 @@
+#include "check/names.h"
+
+#include "check/characters.h"
+#include "framework/values/text.h"
+#include "pitch/tscale.h"
+
+namespace check {
+
+namespace {
+
+constexpr std::string_view kBetweenNames = " / ";
+
+/// The same for two texts that the program takes for equal, and for no others.
+std::string Folded(std::string_view text) {
+  std::string folded;
+  for (const char byte : text) folded += static_cast<char>(framework::Folded(byte));
+  return folded;
+}
+
+std::string OnLine(std::int64_t line) { return " on line " + std::to_string(line); }
+
+}  // namespace
+
+std::vector<Fault> Names::Add(const Line& line) {
+  pitch::TScale scale;
+  scale.Constructor(line.cells);
+  const std::string_view name = scale.Scale();
+  const std::string bank(scale.Bank().View());
+  banks_.insert(Folded(bank));
+
+  std::vector<Fault> faults;
+  for (std::size_t at = 0; at <= name.size();) {
+    const std::size_t end = std::min(name.find(kBetweenNames, at), name.size());
+    const First here{line.number, bank, std::string(name.substr(at, end - at)), scale.Notes()};
+    for (Fault& fault : AddName(line, at, here)) faults.push_back(std::move(fault));
+    at = end + kBetweenNames.size();
+  }
+  if (!faults.empty() || !line.NotesBeginAt(kFirstNote)) return faults;
+
+  const First here{line.number, bank, std::string(name), scale.Notes()};
+  const std::string notes = Folded(bank) + "," + std::to_string(scale.Notes());
+  if (const First& first = notes_.try_emplace(notes, here).first->second; first.line != here.line) {
+    faults.push_back(line.At(line.Start(1), Kind::kNotesAgain, Severity::kRemark,
+                             "the notes of " + Quoted(first.name) + OnLine(first.line), ""));
+  }
+  return faults;
+}
+
+std::vector<Fault> Names::AddName(const Line& line, std::size_t offset, const First& here) {
+  const std::string name = Folded(here.name);
+  const First& in_bank = in_bank_.try_emplace(Folded(here.bank) + "," + name, here).first->second;
+  const std::size_t start = line.Start(1) + offset;
+  if (in_bank.line != here.line) {
+    return {line.At(start, Kind::kNameAgain, Severity::kWarning,
+                    "the name " + Quoted(in_bank.name) + " again, as" + OnLine(in_bank.line),
+                    "no name twice in a bank")};
+  }
+  return {};
+}
+
+}  // namespace check
