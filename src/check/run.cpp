@@ -1,5 +1,7 @@
 #include "check/run.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <string>
 #include <system_error>
 
@@ -12,6 +14,18 @@ namespace check {
 using namespace framework;
 
 namespace {
+
+constexpr std::string_view kUsage =
+    "usage: orrel-check-library FILE\n"
+    "       orrel-check-library --help | --version\n";
+
+constexpr std::string_view kHelp =
+    "\n"
+    "Finds the faults in a library of scales, and names each by line and column. What is\n"
+    "wrong with the whole file comes first, and says what to do.\n"
+    "\n"
+    "Status: 0 clean, or remarks alone; 1 warnings; 2 errors, at which the program would\n"
+    "stop loading; 3 the file cannot be read, or the command line is wrong.\n";
 
 std::string Where(const Fault& fault) {
   if (fault.line == 0) return "";
@@ -30,14 +44,44 @@ int Check(const std::string& path, const Print& out) {
   return summary.warnings > 0 ? kWarnings : kClean;
 }
 
+/// Why something that is there is no library; empty when it may be one.
+std::string NoFile(const std::string& path) {
+  std::error_code ignored;
+  const auto status = std::filesystem::status(path, ignored);
+  if (std::filesystem::is_directory(status)) return "is a folder, not a file";
+  return std::filesystem::is_other(status) ? "is not a file" : "";
+}
+
 }  // namespace
 
 int Run(std::span<const char* const> arguments, const Print& out, const Print& err) {
-  if (arguments.size() != 1) {
-    err("usage: orrel-check-library FILE\n");
+  bool ended = false;  // the options
+  std::vector<std::string> paths;
+  for (const std::string argument : arguments) {
+    if (ended || argument.size() < 2 || argument.front() != '-') {
+      paths.push_back(argument);
+    } else if (argument == "--") {
+      ended = true;
+    } else if (argument == "--help") {
+      out(std::string(kUsage) + std::string(kHelp));
+      return kClean;
+    } else if (argument == "--version") {
+      out("orrel-check-library " PITCHSIEVE_VERSION "\n");
+      return kClean;
+    } else {
+      err("orrel-check-library: unknown option " + argument + "\n" + std::string(kUsage));
+      return kUnreadable;
+    }
+  }
+  if (paths.size() != 1) {
+    err(kUsage);
     return kUnreadable;
   }
-  const std::string path = arguments.front();
+  const std::string& path = paths.front();
+  if (const std::string reason = NoFile(path); !reason.empty()) {
+    err(path + ": " + reason + "\n");
+    return kUnreadable;
+  }
   try {
     return Check(path, out);
   } catch (const IOException& failure) {

@@ -1,4 +1,5 @@
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include <random>
 #include <regex>
@@ -146,11 +147,35 @@ TEST(Checker, TellsTheFirstTwentyOfAKindAndHowManyMoreThereAre) {
                                    " 23 scales in 1 bank: 1 error, 23 warnings, 22 remarks"));
 }
 
-TEST(Checker, HasAStatusForWhatCannotBeRead) {
-  EXPECT_THAT(Check("no-such-library.csv"),
-              Pair(3, HasSubstr("cannot be read: No such file or directory")));
-  EXPECT_THAT(Check("/"), Pair(3, HasSubstr("cannot be read")));
-  EXPECT_EQ(Answer({}).first, 3);
+TEST(Checker, AnswersWhatItIsAsked) {
+  const support::Folder folder;
+  folder.Write("--help", "Bank\nRules\n" + kMajor);
+  mkfifo(folder.Path("pipe").c_str(), 0600);
+  std::filesystem::current_path(folder.Path());
+  const struct {
+    std::vector<const char*> arguments;
+    int status;
+    const char* printed;
+  } cases[] = {
+      {{"--help"}, 0, "usage: orrel-check-library FILE"},
+      {{"--version"}, 0, "orrel-check-library 1."},
+      {{"--", "--help"}, 0, "--help: 1 scale in 1 bank"},
+      {{}, 3, "usage: "},
+      {{"a", "b"}, 3, "usage: "},
+      {{"--colour", "a"}, 3, "unknown option --colour\nusage: "},
+      {{"no-such-library.csv"}, 3, ".csv: cannot be read: No such file or directory"},
+      {{"."}, 3, ".: is a folder, not a file"},
+      {{"pipe"}, 3, "pipe: is not a file"},
+      {{"/dev/zero"}, 3, "/dev/zero: is not a file"},
+  };
+  for (const auto& [arguments, status, printed] : cases) {
+    EXPECT_THAT(Answer(arguments), Pair(status, HasSubstr(printed)));
+    std::string errors;
+    const auto keep = [&](std::string_view text) { errors += text; };
+    check::Run(
+        arguments, [](std::string_view) {}, keep);
+    EXPECT_EQ(errors.empty(), status == 0) << printed;
+  }
 }
 
 /// Whether the loader's steps reach the file's end.
