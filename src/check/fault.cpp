@@ -45,6 +45,8 @@ std::string_view Words(Kind kind) {
       return "scales without their root";
     case Kind::kNameAgain:
       return "names that their bank has already";
+    case Kind::kNameOfOtherNotes:
+      return "names that another bank has for other notes";
     case Kind::kNotesAgain:
       return "notes that their bank has already";
   }

@@ -29,6 +29,7 @@ enum class Kind {
   kBlankBesideWord,
   kNoRoot,
   kNameAgain,
+  kNameOfOtherNotes,
   kNotesAgain
 };
 

@@ -55,6 +55,14 @@ std::vector<Fault> Names::AddName(const Line& line, std::size_t offset, const Fi
                     "the name " + Quoted(in_bank.name) + " again, as" + OnLine(in_bank.line),
                     "no name twice in a bank")};
   }
+  if (name.empty() || !line.NotesBeginAt(kFirstNote)) return {};
+  const First& anywhere = anywhere_.try_emplace(name, here).first->second;
+  if (anywhere.notes != here.notes) {
+    return {line.At(start, Kind::kNameOfOtherNotes, Severity::kWarning,
+                    "the name " + Quoted(anywhere.name) + " for other notes than" +
+                        OnLine(anywhere.line) + ", in the bank " + Quoted(anywhere.bank),
+                    "one set of notes for a name: say in the name which one this is")};
+  }
   return {};
 }
 

@@ -36,8 +36,9 @@ class Names {
 
   // By texts that are folded. Neither a bank nor a name can hold the comma that joins them.
   std::set<std::string> banks_;
-  std::map<std::string, First> in_bank_;  ///< by bank and name
-  std::map<std::string, First> notes_;    ///< by bank and notes
+  std::map<std::string, First> in_bank_;   ///< by bank and name
+  std::map<std::string, First> anywhere_;  ///< by name
+  std::map<std::string, First> notes_;     ///< by bank and notes
 };
 
 }  // namespace check
