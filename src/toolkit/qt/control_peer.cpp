@@ -9,6 +9,7 @@
 #include "toolkit/qt/listbox_peer.h"
 #include "toolkit/qt/popup_menu_peer.h"
 #include "toolkit/qt/text.h"
+#include "toolkit/qt/tool_tip.h"
 
 namespace toolkit::qt {
 
@@ -33,12 +34,6 @@ int RoomFor(const RectControl& control) {
     if (beside && taken.left() > frame.right()) end = std::min(end, taken.left());
   }
   return end - kGap - frame.left();
-}
-
-/// A tool tip wraps only as rich text, which would fold the text's blanks.
-QString ToolTip(const QString& text) {
-  if (text.isEmpty()) return {};
-  return QStringLiteral("<p style=\"white-space: pre-wrap\">%1</p>").arg(text.toHtmlEscaped());
 }
 
 }  // namespace

@@ -25,10 +25,12 @@ int ListModel::columnCount(const QModelIndex& parent) const {
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
   // Between a change and its taking over, the list may be shorter than what the view knows.
-  if (role != Qt::DisplayRole || index.row() > list_->LastIndex()) return {};
-  // No column shows more; laying out a megabyte would take seconds at each painting.
-  constexpr std::size_t kMost = 1000;
-  return Shown(list_->Cell(index.row(), index.column()).View().substr(0, kMost));
+  const bool tip = role == Qt::ToolTipRole;
+  if ((role != Qt::DisplayRole && !tip) || index.row() > list_->LastIndex()) return {};
+  // No column shows more, and no screen; laying out a megabyte would take seconds at each painting.
+  constexpr std::size_t kMostInACell = 1000;
+  constexpr std::size_t kMostInATip = 20000;
+  return Shown(list_->Cell(index.row(), index.column()), tip ? kMostInATip : kMostInACell);
 }
 
 }  // namespace toolkit::qt

@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "toolkit/qt/condensed.h"
+#include "toolkit/qt/tool_tip.h"
 
 namespace toolkit::qt {
 
@@ -34,10 +35,14 @@ class RowDelegate final : public QStyledItemDelegate {
   /// A text that is cut all the same is told whole, in place of the help of the list.
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override {
+    if (!index.isValid()) return false;
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
-    if (cell.fontMetrics.horizontalAdvance(cell.text) <= RoomIn(cell)) return false;
-    QToolTip::showText(event->globalPos(), cell.text.toHtmlEscaped(), view);
+    const QString whole = index.data(Qt::ToolTipRole).toString();
+    const bool fits = cell.fontMetrics.horizontalAdvance(cell.text) <= RoomIn(cell);
+    if (fits && cell.text == whole) return false;
+    QToolTip::showText(event->globalPos(), ToolTipWithin(*view->screen(), whole), view->viewport(),
+                       cell.rect);
     return true;
   }
 

@@ -1,0 +1,102 @@
+#include <QHelpEvent>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextDocument>
+#include <QToolTip>
+
+#include "qt/qt_hand.h"
+#include "support/behaviour.h"
+
+// What the pointer is told, wherever it rests.
+
+namespace {
+
+using namespace support;
+
+class Tips : public Behaviour<QtHand> {
+ protected:
+  /// The tip at a place of a widget; empty for none.
+  static std::string At(QWidget& widget, const QPoint& place) {
+    QToolTip::hideText();
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+    QHelpEvent rest(QEvent::ToolTip, place, widget.mapToGlobal(place));
+    QApplication::sendEvent(&widget, &rest);
+    return QToolTip::text().toStdString();
+  }
+  /// The same, as the screen shows it, without the places where a word may be broken.
+  static QString ReadAt(QWidget& widget, const QPoint& place) {
+    QTextDocument page;
+    page.setHtml(QString::fromStdString(At(widget, place)));
+    return page.toRawText().remove(QChar(0x200B));
+  }
+  static QRect OfTip() {
+    for (const QWidget* const widget : QApplication::topLevelWidgets()) {
+      if (widget->inherits("QTipLabel") && widget->isVisible()) return widget->geometry();
+    }
+    return {};
+  }
+};
+
+TEST_F(Tips, AreTheHelpOfTheListWhereNoCutCellLies) {
+  Open();
+  auto& list = Find<QTableView>("lbContaining");
+  QWidget& viewport = *list.viewport();
+  const std::string help = list.toolTip().toStdString();
+  const QPoint places[] = {viewport.rect().center(), viewport.rect().topLeft(),
+                           viewport.rect().topRight(), viewport.rect().bottomLeft()};
+  for (const QPoint& place : places) EXPECT_EQ(At(viewport, place), help) << "an empty list";
+  hand_->Tick(0);
+  for (const QPoint& place : places) EXPECT_EQ(At(viewport, place), help) << "a few rows";
+  EXPECT_EQ(At(list, {0, 0}), help) << "the frame";
+  hand_->TickOther();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return list.verticalScrollBar()->isVisible(); }));
+  EXPECT_EQ(At(*list.verticalScrollBar(), {5, 5}), help) << "the scroll bar";
+}
+
+TEST_F(Tips, TellACutCellWholeAndPlainHoweverItIsWritten) {
+  Open();
+  QString letters;
+  for (char16_t letter = 0; letter < 0x250; ++letter) {
+    const bool ends_a_line = letter == '\n' || letter == '\r';
+    if (!ends_a_line) letters += QChar(letter);
+  }
+  const QString texts[] = {
+      QStringLiteral("<b>Q & A</b> &amp;  <br>").repeated(6),
+      QString(900, 'W'),
+      "x" + QString(1500, QChar(0xE9)),
+      QStringLiteral("e\u0301 ").repeated(500),
+      QStringLiteral("\U0001D11E").repeated(500),
+      letters,
+  };
+  const auto list = window_->lbContaining();
+  for (const QString& text : texts) list->AddRow({"", text.toStdString()});
+  QApplication::processEvents();
+  auto& view = Find<QTableView>("lbContaining");
+  for (int row = 0; row < static_cast<int>(std::size(texts)); ++row) {
+    const QModelIndex cell = view.model()->index(row, 1);
+    EXPECT_TRUE(texts[row].startsWith(cell.data().toString())) << "cut at a character, row " << row;
+    const QPoint place = view.visualRect(cell).center();
+    EXPECT_EQ(ReadAt(*view.viewport(), place).toStdString(), texts[row].toStdString());
+    EXPECT_LT(OfTip().width(), 700) << "wrapped, row " << row;
+  }
+}
+
+TEST_F(Tips, AreNoHigherThanTheScreen) {
+  Open();
+  const QString lines = QStringLiteral("a\u2028").repeated(10000);
+  const auto list = window_->lbContaining();
+  list->AddRow({std::string(1 << 20, 'm'), lines.toStdString()});
+  QApplication::processEvents();
+  auto& view = Find<QTableView>("lbContaining");
+  for (const int column : {0, 1}) {
+    const QPoint place = view.visualRect(view.model()->index(0, column)).center();
+    const QString told = ReadAt(*view.viewport(), place);
+    const QSize screen = view.screen()->size();
+    EXPECT_LE(OfTip().height(), screen.height());
+    EXPECT_GT(OfTip().height(), screen.height() / 2);
+    EXPECT_LE(OfTip().width(), screen.width());
+    EXPECT_EQ(told.back(), QChar(0x2026));
+  }
+}
+
+}  // namespace
