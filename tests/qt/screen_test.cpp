@@ -112,11 +112,43 @@ TEST_F(Screen, ListsHaveThreeColumnsAndAreRefreshedOnce) {
   hand_->TickOther();
   EXPECT_EQ(refreshed.count(), 1);
   EXPECT_EQ(list.model()->columnCount(), 3);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return list.verticalScrollBar()->isVisible(); }));
-  const int percents[] = {35, 50, 15};
-  for (int column = 0; column < 3; ++column) {
-    EXPECT_EQ(list.columnWidth(column), list.viewport()->width() * percents[column] / 100);
-    EXPECT_EQ(list.columnWidth(column), Find<QTableView>("lbExact").columnWidth(column));
+}
+
+class CountOfPaintings final : public QObject {
+ public:
+  bool eventFilter(QObject*, QEvent* event) override {
+    count += event->type() == QEvent::Paint;
+    return false;
+  }
+  int count = 0;
+};
+
+TEST_F(Screen, ColumnsReachToTheFrameOrToTheScrollBar) {
+  Open();
+  auto& list = Find<QTableView>("lbContaining");
+  auto& bar = *list.verticalScrollBar();
+  CountOfPaintings paintings;
+  list.viewport()->installEventFilter(&paintings);
+  for (const bool long_list : {true, false, true}) {
+    paintings.count = 0;
+    window_->lbContaining()->DeleteAllRows();
+    for (int row = 0; row < (long_list ? 100 : 3); ++row) window_->lbContaining()->AddRow({"a"});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.isVisible() == long_list; }));
+    QTest::qWait(20);
+    EXPECT_EQ(paintings.count, 1);
+    EXPECT_EQ(list.horizontalScrollBar()->maximum(), 0);
+    EXPECT_EQ(list.columnWidth(0), 385 * 35 / 100);
+    EXPECT_EQ(list.columnWidth(1), 385 / 2);
+    const int end = list.columnViewportPosition(2) + list.columnWidth(2);
+    EXPECT_EQ(end, 385 - (long_list ? bar.width() : 0));
+    const QRect row = list.visualRect(list.model()->index(1, 0));
+    for (int y = row.top(); y <= row.bottom(); ++y) {
+      for (const int x : {0, end - 1}) {
+        hand_->ChooseRow(0);
+        QtHand::Click(*list.viewport(), {x, y});
+        EXPECT_EQ(window_->lbContaining()->ListIndex(), 1) << x << ", " << y;
+      }
+    }
   }
 }
 

@@ -5,6 +5,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
@@ -76,6 +77,8 @@ ListView::ListView(QWidget* parent) : QTableView(parent) {
 void ListView::SetColumnShares(std::vector<int> shares) {
   shares_ = std::move(shares);
   ShareWidth();
+  updateGeometries();
+  viewport()->update();
 }
 
 QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
@@ -111,8 +114,8 @@ void ListView::paintEvent(QPaintEvent* event) {
 }
 
 void ListView::resizeEvent(QResizeEvent* event) {
-  QTableView::resizeEvent(event);
   ShareWidth();
+  QTableView::resizeEvent(event);
 }
 
 void ListView::scrollContentsBy(int dx, int dy) {
@@ -151,14 +154,17 @@ void ListView::SetRowHeight() {
 }
 
 void ListView::ShareWidth() {
-  // The scroll bar's place is kept free also while there is none: columns do not jump when it
-  // comes, and those of two lists of one width stand in line.
-  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-  const int room = width() - 2 * frameWidth() - bar;
-  for (int column = 0; column < static_cast<int>(shares_.size()); ++column) {
-    const int share = shares_[static_cast<std::size_t>(column)];
+  // The columns do not move when the scroll bar comes and goes, and those of two lists of one width
+  // stand in line: it is the last one that reaches as far as there is room.
+  const QSignalBlocker quiet(horizontalHeader());  // or the view would paint once more, later
+  const int room = width() - 2 * frameWidth();
+  const int last = static_cast<int>(shares_.size()) - 1;
+  int end = 0;
+  for (int column = 0; column <= last; ++column) {
+    const int share = room * shares_[static_cast<std::size_t>(column)] / 1000;
     setColumnHidden(column, share == 0);
-    if (share > 0) setColumnWidth(column, room * share / 1000);
+    if (share > 0) setColumnWidth(column, column < last ? share : viewport()->width() - end);
+    end += share;
   }
 }
 
