@@ -176,6 +176,38 @@ TEST_F(Screen, RowsAreChosenByKeysAndLetGoByMouse) {
   EXPECT_EQ(window_->lbContaining()->ListIndex(), -1) << "beside the rows";
 }
 
+TEST_F(Screen, OnlyTheMainButtonDoesAnything) {
+  Open();
+  hand_->Tick(0);
+  hand_->ChooseRow(0);
+  QApplication::setDoubleClickInterval(1);  // a popup that has just opened takes no click
+  auto& list = Find<QTableView>("lbContaining");
+  auto& popup = Find<QComboBox>("pmRoot");
+  const QPoint row = list.visualRect(list.model()->index(1, 1)).center();
+  const QPoint beside = list.viewport()->rect().bottomLeft();
+  for (const auto button : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
+    SCOPED_TRACE(button);
+    for (const QPoint& place : {row, beside}) {
+      QTest::mouseClick(list.viewport(), button, {}, place);
+      QTest::mouseDClick(list.viewport(), button, {}, place);
+      EXPECT_EQ(window_->lbContaining()->ListIndex(), 0);
+    }
+    QTest::mouseClick(&Find("cbScale2"), button, {}, {8, 8});
+    QTest::mouseClick(&popup, button);
+    EXPECT_FALSE(popup.view()->isVisible());
+    popup.showPopup();
+    QWidget& rows = *popup.view()->viewport();
+    const QPoint last = popup.view()->visualRect(popup.model()->index(11, 0)).center();
+    QTest::mouseMove(&rows, last);
+    QTest::qWait(10);
+    QTest::mouseClick(&rows, button, {}, last);
+    popup.hidePopup();
+    QApplication::processEvents();
+    EXPECT_EQ(window_->pmRoot()->ListIndex(), 3);
+  }
+  EXPECT_FALSE(window_->cbScale(2)->Value());
+}
+
 TEST_F(Screen, MenusOpenByTheirLettersAndClosingEndsTheRun) {
   Open();
   std::vector<std::string> enabled;

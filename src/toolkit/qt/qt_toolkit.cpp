@@ -12,6 +12,7 @@
 #include "framework/application/application.h"
 #include "framework/application/runtime.h"
 #include "toolkit/qt/appearance.h"
+#include "toolkit/qt/main_button.h"
 #include "toolkit/qt/native_window.h"
 #include "toolkit/qt/outline_style.h"
 #include "toolkit/qt/text.h"
@@ -71,6 +72,7 @@ void QtToolkit::Initialise() {
   // The window says itself when the program ends.
   QApplication::setQuitOnLastWindowClosed(false);
   new Appearance(application_.get());
+  application_->installEventFilter(new MainButtonOnly(application_.get()));
   // The pictures are read by the first event loop, of a message box or the run, not before.
   QMetaObject::invokeMethod(
       application_.get(), [] { _RunEvent([] { QApplication::setWindowIcon(Icon()); }); },
