@@ -44,6 +44,23 @@ TEST_F(Accessibility, ControlsSayWhatTheyAreAndTakeATickWithoutAClick) {
   EXPECT_EQ(list.tableInterface()->cellAt(0, 1)->text(QAccessible::Name), "Major");
 }
 
+TEST_F(Accessibility, RootIsATextThatFollowsTheChoice) {
+  Open();
+  QAccessibleInterface& root = Spoken("pmRoot");
+  EXPECT_EQ(root.textInterface()->text(0, -1), "C");
+  EXPECT_FALSE(root.state().expanded);
+  root.actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+  EXPECT_TRUE(root.state().expanded);
+  ASSERT_EQ(root.childCount(), 1);
+  EXPECT_EQ(root.child(0)->childCount(), 12);
+  EXPECT_EQ(root.indexOfChild(root.child(0)), 0);
+  root.actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+  EXPECT_FALSE(root.state().expanded);
+  hand_->ChooseRoot(4);
+  EXPECT_EQ(root.textInterface()->text(0, root.textInterface()->characterCount()), "C# / Db");
+  EXPECT_EQ(root.textInterface()->text(1, 2), "#");
+}
+
 TEST_F(Accessibility, StarIsToldWithItsBoxAsLongAsItShows) {
   Open();
   hand_->Tick(0);

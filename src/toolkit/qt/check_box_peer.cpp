@@ -12,7 +12,9 @@ CheckBoxPeer::CheckBoxPeer(const framework::Ref<framework::CheckBox>& box, QWidg
       widget_(static_cast<QCheckBox*>(&Widget())) {
   // A screen reader turns the tick over without a click.
   QObject::connect(widget_, &QCheckBox::toggled, Context(), [this](bool ticked) {
-    if (ticked != box_->Value()) box_->Toggle();
+    if (ticked == box_->Value()) return;
+    box_->Toggle();
+    TellOutcome({});
   });
 }
 

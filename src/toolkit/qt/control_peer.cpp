@@ -1,8 +1,12 @@
 #include "toolkit/qt/control_peer.h"
 
+#include <QAccessible>
 #include <algorithm>
 
+#include "framework/controls/reading.h"
 #include "framework/controls/window.h"
+#include "framework/events/run_loop.h"
+#include "toolkit/qt/announce.h"
 #include "toolkit/qt/check_box_peer.h"
 #include "toolkit/qt/condensed.h"
 #include "toolkit/qt/label_peer.h"
@@ -71,6 +75,17 @@ void ControlPeer::Title(const QString&, ControlPeer&) {}
 void ControlPeer::Remark(const QString& remark) {
   remark_ = remark;
   Describe();
+}
+
+void ControlPeer::TellOutcome(const QString& news) {
+  if (!QAccessible::isActive()) return;
+  const auto tell = [this, news] {
+    QStringList words{news, Shown(_Tally(*control_->Window()))};
+    words.removeAll(QString());
+    Announce(*widget_->window(), words.join(QLatin1String(". ")));
+  };
+  QMetaObject::invokeMethod(
+      Context(), [tell] { _RunEvent(tell); }, Qt::QueuedConnection);
 }
 
 void ControlPeer::Place() {

@@ -37,6 +37,9 @@ class ControlPeer : public framework::Peer {
   virtual void Show(framework::Change what) = 0;
   /// The width that the widget needs to show its text whole; 0 for a widget that has no say.
   virtual int WantedWidth() const { return 0; }
+  /// Tells a screen reader, once the event is over and the lists show their rows, what has come of
+  /// an input: news of the control itself, which may be empty, and how many rows each list has.
+  void TellOutcome(const QString& news);
   /// The context of every connection to the peer: none outlives it, though the widget does.
   QObject* Context() { return &context_; }
 

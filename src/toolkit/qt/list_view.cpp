@@ -1,5 +1,6 @@
 #include "toolkit/qt/list_view.h"
 
+#include <QAccessible>
 #include <QEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -129,6 +130,9 @@ void ListView::changeEvent(QEvent* event) {
 }
 
 void ListView::focusInEvent(QFocusEvent* event) {
+  // A view would move to its first row, unchosen, and the key that then chooses it moves nothing:
+  // a screen reader would be told of no row.
+  if (!currentIndex().isValid()) setCurrentIndex({});
   QTableView::focusInEvent(event);
   viewport()->update();
 }
@@ -141,6 +145,10 @@ void ListView::focusOutEvent(QFocusEvent* event) {
 void ListView::TakeSelectionBack() {
   clearSelection();
   setCurrentIndex({});
+  if (!hasFocus()) return;
+  // A screen reader goes back to the list, or it would be silent when the same row is chosen again.
+  QAccessibleEvent left(this, QAccessible::Focus);
+  QAccessible::updateAccessibility(&left);
 }
 
 void ListView::SetRowHeight() {

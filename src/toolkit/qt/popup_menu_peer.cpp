@@ -1,6 +1,9 @@
 #include "toolkit/qt/popup_menu_peer.h"
 
+#include <QAbstractItemView>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QSignalBlocker>
 #include <QStyleOptionComboBox>
 #include <algorithm>
 
@@ -10,12 +13,33 @@ namespace toolkit::qt {
 
 using framework::Change;
 
+namespace {
+
+/// A QComboBox whose letters do not move the row of the list that is not open: a screen reader
+/// would follow them into it.
+class Popup final : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool letter = !event->text().isEmpty() && event->text().at(0).isLetter();
+    const QSignalBlocker still(letter ? view()->selectionModel() : nullptr);
+    QComboBox::keyPressEvent(event);
+  }
+};
+
+}  // namespace
+
 PopupMenuPeer::PopupMenuPeer(const framework::Ref<framework::PopupMenu>& menu, QWidget* content)
-    : ControlPeer(menu, new QComboBox(content)),
+    : ControlPeer(menu, new Popup(content)),
       menu_(menu),
       widget_(static_cast<QComboBox*>(&Widget())) {
-  QObject::connect(widget_, &QComboBox::activated, Context(),
-                   [this](int row) { menu_->Choose(row); });
+  QObject::connect(widget_, &QComboBox::activated, Context(), [this](int row) {
+    if (row == menu_->ListIndex()) return;
+    menu_->Choose(row);
+    TellOutcome(widget_->currentText());
+  });
 }
 
 void PopupMenuPeer::Title(const QString& title, ControlPeer& label) {

@@ -11,6 +11,7 @@
 
 #include "framework/application/application.h"
 #include "framework/application/runtime.h"
+#include "toolkit/qt/accessible_popup.h"
 #include "toolkit/qt/appearance.h"
 #include "toolkit/qt/main_button.h"
 #include "toolkit/qt/native_window.h"
@@ -71,6 +72,7 @@ void QtToolkit::Initialise() {
   QApplication::setDesktopFileName(QString::fromStdString(desktop_entry_));
   // The window says itself when the program ends.
   QApplication::setQuitOnLastWindowClosed(false);
+  TellPopupsAsText();
   new Appearance(application_.get());
   application_->installEventFilter(new MainButtonOnly(application_.get()));
   // The pictures are read by the first event loop, of a message box or the run, not before.
