@@ -31,8 +31,13 @@ tell color-scheme 2
 until_there 2000 "$light" $ground
 tell accent-color 0.8 0.2 0.6
 until_there 200 '#CC3399' $chosen
-tell color-scheme 1
+tell forged color-scheme 1                     # not the portal's word: it stays light
+tell accent-color 0.2 0.6 0.2
+until_there 200 '#339933' $chosen
+until_there 2000 "$light" $ground
+tell restarted color-scheme 1                  # another portal, which is asked anew and heard
 until_there 2000 "$dark" $ground
+tell accent-color 0.8 0.2 0.6
 until_there 200 '#CC3399' $chosen
 until_there 8 "$green" 15 20 15 188
 tell color-scheme dark                         # what makes no sense is no preference

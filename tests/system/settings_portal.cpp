@@ -1,10 +1,13 @@
 // Plays the desktop's settings portal on the session bus. A line on standard input sets and tells a
 // setting: "color-scheme 1" a number, "accent-color 0.9 0.1 0.1" a colour, "color-scheme dark" a
-// text; "mute" leaves the next questions without an answer.
+// text; "mute" leaves the next questions without an answer. "forged" before it: told by someone who
+// is not the portal, and not set. "restarted" before it: another portal takes this one's place,
+// which has the setting and tells nothing.
 
 #include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
@@ -12,6 +15,7 @@
 #include <QSocketNotifier>
 #include <iostream>
 #include <iterator>
+#include <optional>
 #include <sstream>
 #include <vector>
 
@@ -42,29 +46,54 @@ class Portal final : public QDBusVirtualObject {
                         : question.createErrorReply(QDBusError::InvalidArgs, key));
   }
 
+  /// On a connection of its own. Whether the portal's name could be had.
+  bool Start() {
+    if (bus_) QDBusConnection::disconnectFromBus(bus_->name());
+    bus_ = Connection();
+    return bus_->registerVirtualObject(kPath, this) &&
+           bus_->registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
+  }
+
   void Do(std::istringstream line) {
     std::string word;
     line >> word;
+    const bool forged = word == "forged";
+    const bool restarted = word == "restarted";
+    if (forged || restarted) line >> word;
     mute_ = word == "mute";
     const auto key = QString::fromStdString(word);
-    values_[key] = ValueOf({std::istream_iterator<double>(line), {}});
-    QDBusMessage signal = QDBusMessage::createSignal(
-        kPath, QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("SettingChanged"));
-    signal << QStringLiteral("org.freedesktop.appearance") << key << Wrapped(values_[key]);
-    QDBusConnection::sessionBus().send(signal);
+    const QVariant value = ValueOf({std::istream_iterator<double>(line), {}});
+    if (!forged) values_[key] = value;
+    if (restarted) {
+      Start();
+    } else {
+      Tell(key, value, forged ? Connection() : *bus_);
+    }
   }
 
  private:
+  static QDBusConnection Connection() {
+    static int count = 0;
+    return QDBusConnection::connectToBus(QDBusConnection::SessionBus, QString::number(++count));
+  }
+
+  static void Tell(const QString& key, const QVariant& value, const QDBusConnection& bus) {
+    QDBusMessage signal = QDBusMessage::createSignal(
+        kPath, QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("SettingChanged"));
+    signal << QStringLiteral("org.freedesktop.appearance") << key << Wrapped(value);
+    bus.send(signal);
+    bus.interface()->isServiceRegistered(bus.baseService());  // by then the signal is on its way
+  }
+
   QMap<QString, QVariant> values_;
+  std::optional<QDBusConnection> bus_;
   bool mute_ = false;
 };
 
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   Portal portal;
-  QDBusConnection bus = QDBusConnection::sessionBus();
-  const bool there = bus.registerVirtualObject(kPath, &portal) &&
-                     bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
+  const bool there = portal.Start();
   QSocketNotifier input(0, QSocketNotifier::Read);
   QObject::connect(&input, &QSocketNotifier::activated, &portal, [&portal] {
     std::string line;

@@ -4,6 +4,7 @@
 #include <QDBusConnection>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 
 namespace toolkit::qt {
@@ -45,6 +46,17 @@ SettingsPortal::SettingsPortal(QObject* parent) : QObject(parent) {
   // Of any sender: to hear one by its name only, Qt would ask the bus who that is, and wait.
   bus.connect(QString(), kPath, kInterface, QStringLiteral("SettingChanged"), this,
               SLOT(SettingChanged(QDBusMessage)));
+  auto* const watcher =
+      new QDBusServiceWatcher(kService, bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+  connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+          [this](const QString&, const QString&, const QString& owner) {
+            owner_ = owner;
+            if (!owner.isEmpty()) AskForAll();
+          });
+  AskForAll();
+}
+
+void SettingsPortal::AskForAll() {
   Ask(kScheme);
   Ask(kAccent);
 }
@@ -58,6 +70,9 @@ void SettingsPortal::Ask(const QString& key) {
   connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, key, watcher] {
     watcher->deleteLater();
     const QDBusPendingReply<QDBusVariant> reply = *watcher;
+    // A refusal of the bus itself comes by the name that it goes by, not by one of a connection.
+    const QString sender = reply.reply().service();
+    if (owner_.isEmpty() && sender.startsWith(QLatin1Char(':'))) owner_ = sender;
     if (reply.isError()) return;
     // The portal wraps what it reads in a variant of its own.
     const QVariant value = reply.value().variant();
@@ -67,7 +82,7 @@ void SettingsPortal::Ask(const QString& key) {
 }
 
 void SettingsPortal::SettingChanged(const QDBusMessage& message) {
-  if (message.signature() != QLatin1String("ssv")) return;
+  if (message.service() != owner_ || message.signature() != QLatin1String("ssv")) return;
   const QVariantList parts = message.arguments();
   if (parts[0].toString() != kSpace) return;
   Take(parts[1].toString(), parts[2].value<QDBusVariant>().variant());
