@@ -208,6 +208,27 @@ TEST_F(Screen, OnlyTheMainButtonDoesAnything) {
   EXPECT_FALSE(window_->cbScale(2)->Value());
 }
 
+TEST_F(Screen, ArrowKeysGoUpAndDownInOneSetOfBoxesAndNowhereElse) {
+  Open();
+  const auto after = [](const char* first, Qt::Key key, int times) {
+    Find(first).setFocus();
+    while (times-- > 0) QtHand::Press(*QApplication::focusWidget(), key);
+    return QApplication::focusWidget()->objectName().toStdString();
+  };
+  EXPECT_EQ(after("cbScale0", Qt::Key_Down, 3), "cbScale3");
+  EXPECT_EQ(after("cbScale0", Qt::Key_Down, 15), "cbScale11");
+  EXPECT_EQ(after("cbScale11", Qt::Key_Up, 4), "cbScale7");
+  EXPECT_EQ(after("cbScale3", Qt::Key_Up, 7), "cbScale0");
+  for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right}) {
+    EXPECT_EQ(after("cbOther", key, 1), "cbOther");
+    EXPECT_EQ(after("cbRinL", key, 1), "cbRinL");
+  }
+  for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right}) {
+    EXPECT_EQ(after("cbScale4", key, 1), "cbScale4");
+  }
+  EXPECT_EQ(window_->pmRoot()->ListIndex(), 3);
+}
+
 TEST_F(Screen, MenusOpenByTheirLettersAndClosingEndsTheRun) {
   Open();
   std::vector<std::string> enabled;

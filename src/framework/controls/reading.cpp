@@ -57,6 +57,20 @@ std::vector<Ref<RectControl>> _TabOrder(const Window& window) {
   return controls;
 }
 
+Ref<RectControl> _NextInSet(const RectControl& control, int step) {
+  if (control.Index() == Control::kNoIndex) return nullptr;
+  auto set = InOrder<RectControl>(*control.Window());
+  const auto is_other = [&](const Ref<RectControl>& other) {
+    return !Same(other->Name(), control.Name()) || other->Index() == Control::kNoIndex;
+  };
+  set.erase(std::remove_if(set.begin(), set.end(), is_other), set.end());
+  const auto here = std::find_if(
+      set.begin(), set.end(), [&](const Ref<RectControl>& each) { return each.Get() == &control; });
+  const auto next = here - set.begin() + step;
+  const bool there = next >= 0 && next < static_cast<std::ptrdiff_t>(set.size());
+  return there ? set[static_cast<std::size_t>(next)] : nullptr;
+}
+
 String _Tally(const Window& window) {
   std::string tally;
   for (const Ref<Listbox>& list : InOrder<Listbox>(window)) {

@@ -22,6 +22,10 @@ Ref<RectControl> _RemarkedBy(const Label& label);
 /// then down the next. A label takes none.
 std::vector<Ref<RectControl>> _TabOrder(const Window& window);
 
+/// The member of the control's set that stands next behind it in that order, or before it with a
+/// step of -1: where the arrow keys go. Nil at the end of the set, and for a control of no set.
+Ref<RectControl> _NextInSet(const RectControl& control, int step);
+
 /// How many rows each visible list has, behind its title, from the top:
 /// "Exact Match 1, Containing All Notes 42". A list without a title is left out; empty when none is
 /// left.

@@ -42,6 +42,11 @@ int RoomFor(const RectControl& control) {
 
 }  // namespace
 
+QString ObjectName(const RectControl& control) {
+  const QString name = Shown(control.Name());
+  return control.Index() == Control::kNoIndex ? name : name + QString::number(control.Index());
+}
+
 ControlPeer::ControlPeer(const Ref<RectControl>& control, QWidget* widget)
     : control_(control), widget_(widget) {
   control_->_SetPeer(this);
@@ -50,9 +55,7 @@ ControlPeer::ControlPeer(const Ref<RectControl>& control, QWidget* widget)
 ControlPeer::~ControlPeer() { control_->_SetPeer(nullptr); }
 
 void ControlPeer::Build() {
-  QString name = Shown(control_->Name());
-  if (control_->Index() != Control::kNoIndex) name += QString::number(control_->Index());
-  widget_->setObjectName(name);
+  widget_->setObjectName(ObjectName(*control_));
   Look();
   for (const Change what : {Change::Rows, Change::Caption, Change::Text, Change::Value,
                             Change::ListIndex, Change::Visible}) {

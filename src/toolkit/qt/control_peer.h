@@ -54,6 +54,9 @@ class ControlPeer : public framework::Peer {
   QObject context_;
 };
 
+/// The name of the control's widget: "pmRoot", "cbScale11".
+QString ObjectName(const framework::RectControl& control);
+
 /// The peer of a control, by its class, with its widget in the given content area.
 std::unique_ptr<ControlPeer> MakePeer(const framework::Ref<framework::RectControl>& control,
                                       QWidget* content);
