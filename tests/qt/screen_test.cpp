@@ -59,7 +59,8 @@ TEST_F(Screen, LargerLettersFitTheSamePlaces) {
     EXPECT_GE(widget.width(), widget.sizeHint().width()) << name;
     EXPECT_LT(widget.geometry().right(), Find("lbExact").x()) << name;
   }
-  EXPECT_GT(Find("pmRoot").width(), 80);
+  EXPECT_EQ(Find("pmRoot").size(), QSize(80, 20));
+  EXPECT_LT(Find("pmRoot").font().stretch(), 100) << "condensed";
 }
 
 TEST_F(Screen, StarIsWholeAndGreenInItsStrip) {

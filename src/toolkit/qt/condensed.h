@@ -8,7 +8,7 @@ namespace toolkit::qt {
 /// wide even so will be cut. width_with tells how wide the text is in a font.
 template <class WidthWith>
 QFont Condensed(QFont font, int room, WidthWith width_with) {
-  for (int percent = 100; percent >= 70; percent -= 5) {
+  for (int percent = 100; percent >= 60; percent -= 5) {
     font.setStretch(percent);
     if (width_with(font) <= room) break;
   }

@@ -93,11 +93,11 @@ void ControlPeer::TellOutcome(const QString& news) {
 
 void ControlPeer::Place() {
   // The frame keeps its measures. A text that is wider, in this platform's font, runs on past it as
-  // far as nothing is in the way, and is condensed where something is.
+  // far as nothing is in the way, where it may, and is condensed to the room that there is.
   QRect place = FrameOf(*control_);
   int wanted = WantedWidth();
   if (wanted > place.width() || widget_->font().stretch() != QFont::AnyStretch) {
-    const int room = std::max(place.width(), RoomFor(*control_));
+    const int room = MayRunOn() ? std::max(place.width(), RoomFor(*control_)) : place.width();
     widget_->setFont(Condensed(widget_->font(), room, [&](const QFont& font) {
       widget_->setFont(font);
       return wanted = WantedWidth();

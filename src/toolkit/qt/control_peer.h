@@ -40,6 +40,8 @@ class ControlPeer : public framework::Peer {
   /// Tells a screen reader, once the event is over and the lists show their rows, what has come of
   /// an input: news of the control itself, which may be empty, and how many rows each list has.
   void TellOutcome(const QString& news);
+  /// Whether the widget may be longer than the frame, to the right, for its text's sake.
+  virtual bool MayRunOn() const { return true; }
   /// The context of every connection to the peer: none outlives it, though the widget does.
   QObject* Context() { return &context_; }
 

@@ -17,6 +17,7 @@ class PopupMenuPeer final : public ControlPeer {
  protected:
   void Show(framework::Change what) override;
   int WantedWidth() const override;
+  bool MayRunOn() const override { return false; }
 
  private:
   framework::Ref<framework::PopupMenu> menu_;
