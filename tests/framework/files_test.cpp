@@ -44,9 +44,14 @@ TEST_F(Files, AreLetGoOf) {
   EXPECT_EQ(open_files(), before);
 }
 
-TEST_F(Files, ThatArePipesDoNotHangTheProgram) {
-  ASSERT_EQ(mkfifo(folder_.Path("pipe").c_str(), 0600), 0);
-  EXPECT_TRUE(TextInputStream::Open(Item("pipe"))->EOF_());
+TEST_F(Files, HaveLinesOfOneMebibyteAtMost) {
+  const std::string longest(1024 * 1024, 'x');
+  folder_.Write("file", longest + "\n" + longest + "x\nmore");
+  const auto stream = TextInputStream::Open(Item("file"));
+  EXPECT_EQ(stream->ReadLine().View(), longest);
+  EXPECT_FALSE(stream->EOF_());
+  EXPECT_THROW(stream->ReadLine(), IOException);
+  EXPECT_TRUE(stream->EOF_()) << "nothing more is read";
 }
 
 TEST_F(Files, NameTheirPartsWhetherTheyExistOrNot) {

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -23,6 +24,14 @@ std::string SystemPath(const String& path) {
 std::string_view Trimmed(const String& path) {
   const std::string_view text = path.View();
   return text.substr(0, std::max<std::size_t>(text.find_last_not_of('/') + 1, 1));
+}
+
+/// Why what has been opened is not read; 0 for a file.
+int WhyNoFile(int file) {
+  struct stat status {};
+  if (fstat(file, &status) != 0) return errno;
+  if (S_ISREG(status.st_mode)) return 0;
+  return S_ISDIR(status.st_mode) ? EISDIR : EOPNOTSUPP;
 }
 
 }  // namespace
@@ -56,13 +65,18 @@ Ref<FolderItem> GetFolderItem(const String& path) {
 }
 
 Ref<TextInputStream> FolderItemOpenTextFile(FolderItem& item) {
-  // Without O_NONBLOCK, opening a pipe that no one writes to would hang the program.
-  const int file = open(SystemPath(item.path_).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  // Opening a pipe that no one writes to would wait without O_NONBLOCK; and a terminal is not to
+  // become the program's own.
+  const int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+  const int file = open(SystemPath(item.path_).c_str(), flags);
   if (file < 0) {
     item.last_error_code_ = errno;
     return nullptr;
   }
-  return RuntimeNewObject<TextInputStream>(file);
+  const int error = WhyNoFile(file);
+  if (error == 0) return RuntimeNewObject<TextInputStream>(file);
+  close(file);
+  return RuntimeNewObject<TextInputStream>(-1, error);
 }
 
 }  // namespace framework

@@ -38,6 +38,7 @@ class FolderItem final : public Object {
 Ref<FolderItem> GetFolderItem(const String& path);
 
 /// Opens the item for reading. Nil if the system refuses; the item's LastErrorCode then says why.
+/// A folder, a pipe and a device open, and the stream's first ReadLine fails.
 Ref<TextInputStream> FolderItemOpenTextFile(FolderItem& item);
 
 }  // namespace framework

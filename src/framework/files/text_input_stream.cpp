@@ -14,6 +14,7 @@ namespace framework {
 namespace {
 
 constexpr std::size_t kBlock = 65536;
+constexpr std::size_t kLongestLine = 1024 * 1024;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// read() that goes on when a signal came between.
@@ -50,6 +51,10 @@ String TextInputStream::ReadLine() {
     line.append(rest.begin(), end);
     position_ += static_cast<std::size_t>(end - rest.begin());
     ended = end != rest.end();
+    if (line.size() <= kLongestLine) continue;
+    Close();
+    pending_error_ = EMSGSIZE;
+    ended = false;
   }
   if (ended && block_[position_++] == '\r' && Ready() && block_[position_] == '\n') ++position_;
   // A line that came whole is given out; a failure met behind it waits for the next call.

@@ -15,12 +15,14 @@ class TextInputStream final : public Object {
   /// ErrorNumber for one that cannot be opened.
   static Ref<TextInputStream> Open(const Ref<FolderItem>& item);
 
-  /// Takes over an open file of the system.
-  explicit TextInputStream(int file) : file_(file) {}
+  /// Takes over an open file of the system; -1 for none. An error other than 0 is the next
+  /// ReadLine's to tell.
+  explicit TextInputStream(int file, int error = 0) : file_(file), pending_error_(error) {}
   ~TextInputStream() override { Close(); }
 
   /// The next line, without its line end; empty past the end of the file. Raises IOException with
-  /// LastErrorCode as ErrorNumber if reading failed and UseIOExceptions is on.
+  /// LastErrorCode as ErrorNumber if reading failed and UseIOExceptions is on. A line of more than
+  /// 1 MiB is a failure too, after which the file is not read any further.
   String ReadLine();
   /// True as soon as the last line has been read, also when the file ends in a line end. It raises
   /// no IOException: a failure that it runs into is the next ReadLine's.
