@@ -1,7 +1,6 @@
 #include "check/run.h"
 
-#include <algorithm>
-#include <filesystem>
+#include <cerrno>
 #include <string>
 #include <system_error>
 
@@ -44,12 +43,19 @@ int Check(const std::string& path, const Print& out) {
   return summary.warnings > 0 ? kWarnings : kClean;
 }
 
-/// Why something that is there is no library; empty when it may be one.
-std::string NoFile(const std::string& path) {
-  std::error_code ignored;
-  const auto status = std::filesystem::status(path, ignored);
-  if (std::filesystem::is_directory(status)) return "is a folder, not a file";
-  return std::filesystem::is_other(status) ? "is not a file" : "";
+/// What keeps a file from being read, by the system's error number.
+std::string Why(int error) {
+  switch (error) {
+    case EISDIR:
+      return "is a folder, not a file";
+    case EOPNOTSUPP:
+    case ENXIO:  // a socket
+      return "is not a file";
+    case EMSGSIZE:
+      return "cannot be read: a line of more than 1 MiB, with no line end that the program knows";
+    default:
+      return "cannot be read: " + std::system_category().message(error);
+  }
 }
 
 }  // namespace
@@ -78,15 +84,10 @@ int Run(std::span<const char* const> arguments, const Print& out, const Print& e
     return kUnreadable;
   }
   const std::string& path = paths.front();
-  if (const std::string reason = NoFile(path); !reason.empty()) {
-    err(path + ": " + reason + "\n");
-    return kUnreadable;
-  }
   try {
     return Check(path, out);
   } catch (const IOException& failure) {
-    err(path + ": cannot be read: " +
-        std::system_category().message(static_cast<int>(failure.ErrorNumber())) + "\n");
+    err(path + ": " + Why(static_cast<int>(failure.ErrorNumber())) + "\n");
     return kUnreadable;
   }
 }

@@ -159,6 +159,7 @@ TEST(Checker, TellsTheFirstTwentyOfAKindAndHowManyMoreThereAre) {
 TEST(Checker, AnswersWhatItIsAsked) {
   const support::Folder folder;
   folder.Write("--help", "Bank\nRules\n" + kMajor);
+  folder.Write("long", std::string(2 << 20, 'a'));
   mkfifo(folder.Path("pipe").c_str(), 0600);
   std::filesystem::current_path(folder.Path());
   const struct {
@@ -173,6 +174,7 @@ TEST(Checker, AnswersWhatItIsAsked) {
       {{"a", "b"}, 3, "usage: "},
       {{"--colour", "a"}, 3, "unknown option --colour\nusage: "},
       {{"no-such-library.csv"}, 3, ".csv: cannot be read: No such file or directory"},
+      {{"long"}, 3, "long: cannot be read: a line of more than 1 MiB, with no line end"},
       {{"."}, 3, ".: is a folder, not a file"},
       {{"pipe"}, 3, "pipe: is not a file"},
       {{"/dev/zero"}, 3, "/dev/zero: is not a file"},
