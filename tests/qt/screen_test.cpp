@@ -1,6 +1,5 @@
 #include <QAction>
 #include <QBitmap>
-#include <QMessageBox>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTimer>
@@ -273,23 +272,6 @@ TEST_F(Screen, ChangeOfThePaletteIsToldOnce) {
   QTest::qWait(20);
   EXPECT_THAT(watcher->heard, ElementsAre(_MacOSDistributedNotifications::kThemeChanged,
                                           _MacOSDistributedNotifications::kColorsChanged));
-}
-
-TEST_F(Screen, MessageWaitsForTheUserAndTheProgramGoesOn) {
-  std::filesystem::create_directory(folder_.Path(library::kFileName));
-  QString told;
-  toolkit_.before_the_window = [&told] {
-    // The box is the first to let time pass.
-    QTimer::singleShot(0, [&told] {
-      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      ASSERT_NE(box, nullptr);
-      told = box->text();
-      box->accept();
-    });
-  };
-  Start();
-  EXPECT_EQ(told, "Error accessing file.");
-  EXPECT_TRUE(Native().isVisible());
 }
 
 }  // namespace

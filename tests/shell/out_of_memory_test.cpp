@@ -8,11 +8,20 @@ namespace {
 
 /// Allocations that still succeed before one is refused; below zero, none ever is.
 long until_refusal = -1;
+/// Whether all that follow are refused too.
+bool lasting = false;
+bool refused = false;
+
+bool Refuses() {
+  if (until_refusal < 0 || until_refusal-- > 0) return false;
+  if (lasting) until_refusal = 0;
+  return refused = true;
+}
 
 }  // namespace
 
 void* operator new(std::size_t size) {
-  if (until_refusal >= 0 && until_refusal-- == 0) throw std::bad_alloc();
+  if (Refuses()) throw std::bad_alloc();
   if (void* const memory = std::malloc(size)) return memory;
   throw std::bad_alloc();
 }
@@ -21,6 +30,7 @@ void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace {
 
+using namespace framework;
 using namespace support;
 
 using OutOfMemory = ProgramOn<toolkit::memory::MemoryToolkit>;
@@ -30,13 +40,13 @@ TEST_F(OutOfMemory, AtAnyPlaceOfAPassIsReportedAndTheProgramLivesOn) {
   window_->cbScale(7)->Toggle();
   const auto other = window_->cbOther();
   long place = 0;
-  for (bool refused = true; refused; ++place) {
+  for (refused = true; refused; ++place) {
     SCOPED_TRACE("place " + std::to_string(place));
     window_->lbContaining()->Select(0);
     toolkit_.ClearLog();
+    refused = false;
     until_refusal = place;
     other->Toggle();
-    refused = until_refusal < 0;
     until_refusal = -1;
     ASSERT_EQ(Told(), std::vector<std::string>(refused ? 1 : 0, "failure OutOfMemoryException"));
     // With memory again, the next input is answered in full.
@@ -47,6 +57,41 @@ TEST_F(OutOfMemory, AtAnyPlaceOfAPassIsReportedAndTheProgramLivesOn) {
     ASSERT_EQ(Stars(), "000000000000");
   }
   EXPECT_GT(place, 30) << "in a pass over twelve roots";
+}
+
+/// Whoever reports a refusal has no memory either.
+constexpr const char* kReport =
+    "OutOfMemoryException: The system has no memory left. (error number 0)\n";
+
+TEST_F(OutOfMemory, AsLongAsTheReportTakesLeavesTheLineOnStandardError) {
+  Open();
+  window_->cbScale(7)->Toggle();
+  const auto other = window_->cbOther();
+  lasting = true;
+  refused = true;
+  for (long place = 0; refused; ++place) {
+    testing::internal::CaptureStderr();
+    refused = false;
+    until_refusal = place;
+    other->Toggle();
+    until_refusal = -1;
+    ASSERT_EQ(testing::internal::GetCapturedStderr(), refused ? kReport : "") << place;
+    if (other->Value()) other->Toggle();
+    ASSERT_THAT(Containing(), testing::SizeIs(3));
+  }
+}
+
+TEST_F(OutOfMemory, BehindTheRunIsReportedAndTheProgramEndsWithItsStatus) {
+  lasting = true;
+  toolkit_.Post([] {
+    _RunEvent([] { throw std::bad_exception(); });
+    until_refusal = 0;
+  });
+  testing::internal::CaptureStderr();
+  const int status = shell::main();
+  until_refusal = -1;
+  EXPECT_EQ(status, 1);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "std::bad_exception: std::bad_exception\n");
 }
 
 }  // namespace

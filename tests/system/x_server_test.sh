@@ -27,25 +27,11 @@ xdotool key --delay 100 q
 ends_well "the menu"
 
 # A failure is told on a standard error whose reader has gone, and the program lives on.
-mkdir -p "$work/bin/Resources"
-cp "$program" "$work/bin/program"
-printf 'a\nb\nshort' >"$work/bin/Resources/Orrel Scales.csv"
 mkfifo "$work/pipe"
 exec 5<>"$work/pipe" 6>"$work/pipe" 5>&-
-LC_ALL=$locale "$work/bin/program" 2>&6 &
-id=$!
-started+=("$id")
-xdotool windowfocus --sync "$(timeout 20 xdotool search --sync --onlyvisible --pid "$id" --name '^Orrel Pitchsieve$' | head -1)"
-xdotool key Return
-for _ in $(seq 100); do
-  window=$(xdotool search --onlyvisible --pid "$id" --name '^Orrel Pitchsieve$' | head -1) || true
-  [ -n "$window" ] && xdotool getwindowgeometry "$window" | grep -q 'Geometry: 615x' && break
-  sleep 0.05
-done
-[ -n "$window" ] || fail "no window behind a failure that no one reads"
-xdotool windowfocus --sync "$window"
-xdotool key ctrl+q
-ends_well "a failure that no one reads"
+start_on_a_broken_library 2>&6
+read_box
+end_the_window "a failure that no one reads"
 
 start
 kill "$server"                                 # the display is taken away

@@ -26,6 +26,9 @@ Runtime& State() {
 void RuntimeInit() {
   State() = {};
   _StartRunLoop();
+  // What the end of a run lets go of is there from its start: the end may have no memory.
+  _ReleaseWindows();
+  Timer::_Forget();
   _StartObjectRuntime();
 }
 
@@ -53,6 +56,7 @@ void _RunFrameworkInitialization(void (*function)()) {
 }
 
 void RuntimePerformFinalizers() {
+  _RunEvent([] { Toolkit::Current().WaitUntilRead(); });
   _ReleaseWindows();
   const auto& program = State().program;
   for (auto it = program.rbegin(); it != program.rend(); ++it) it->tear_down();

@@ -34,7 +34,8 @@ Ref<Application> getAppObject();
 /// Finishes the framework's own making, the toolkit's included, and runs function, which may make
 /// the first window.
 void _RunFrameworkInitialization(void (*function)());
-/// Lets go of all windows, then undoes the initializers, in the opposite order.
+/// Waits until the user has read what he was told, lets go of all windows, then undoes the
+/// initializers, in the opposite order.
 void RuntimePerformFinalizers();
 /// Tears the runtime down. The exit status: 0 after a normal end, 1 after a failure that left the
 /// outermost block.

@@ -110,9 +110,9 @@ std::int64_t Listbox::ListIndex() const {
 }
 
 void Listbox::Select(std::int64_t row) {
-  if (row < -1 || row > LastIndex()) RaiseOutOfBoundsException(row, LastIndex());
-  if (row == list_index_) return;
   _RunEvent([this, row] {
+    if (row < -1 || row > LastIndex()) RaiseOutOfBoundsException(row, LastIndex());
+    if (row == list_index_) return;
     list_index_ = row;
     _Changed(Change::ListIndex);
     _Raise(kChange);

@@ -63,7 +63,7 @@ class Listbox : public RectControl {
   std::int64_t ListIndex() const;
 
   /// The user's input: chooses a row, or none with -1, then raises Change. What is chosen already
-  /// raises nothing. Raises OutOfBoundsException for a row that is not there.
+  /// raises nothing. A row that is not there makes the event fail.
   void Select(std::int64_t row);
 
  private:

@@ -59,8 +59,9 @@ void MenuItem::_SelfEnable() {
 }
 
 void MenuItem::Choose() {
-  if (!Enabled()) return;
-  _RunEvent([this] { Action(); });
+  _RunEvent([this] {
+    if (Enabled()) Action();
+  });
 }
 
 bool QuitMenuItem::Action() { return QuitMenuAction(Ref<MenuItem>(this)); }

@@ -26,10 +26,10 @@ Array<String> PopupMenu::Rows() const {
 }
 
 void PopupMenu::Choose(std::int64_t row) {
-  const std::int64_t last = Rows().LastIndex();
-  if (row < 0 || row > last) RaiseOutOfBoundsException(row, last);
-  if (row == ListIndex()) return;
   _RunEvent([this, row] {
+    const std::int64_t last = Rows().LastIndex();
+    if (row < 0 || row > last) RaiseOutOfBoundsException(row, last);
+    if (row == ListIndex()) return;
     ListIndex(row);
     _Raise(kChange);
   });

@@ -23,7 +23,7 @@ class PopupMenu : public RectControl {
   Array<String> Rows() const;
 
   /// The user's input: chooses a row, then raises Change. The row that is chosen already raises
-  /// nothing. Raises OutOfBoundsException for a row that is not there.
+  /// nothing. One that is not there makes the event fail.
   void Choose(std::int64_t row);
 };
 

@@ -103,10 +103,12 @@ void Window::_Finish(const Ref<RectControl>& control) {
 }
 
 void Window::Close() {
-  closed_ = true;
-  if (std::ranges::all_of(Windows(), &Window::_Closed, &Ref<Window>::operator*)) {
-    Toolkit::Current().Quit();
-  }
+  _RunEvent([this] {
+    closed_ = true;
+    if (std::ranges::all_of(Windows(), &Window::_Closed, &Ref<Window>::operator*)) {
+      Toolkit::Current().Quit();
+    }
+  });
 }
 
 Ref<Window> _GetImplicitWindow(std::string_view class_name) {

@@ -4,7 +4,8 @@
 
 namespace framework {
 
-/// Shows a text in a message box and comes back once the user has dismissed it.
+/// Shows a text in a message box, once the event that asks for it is over and the boxes before it
+/// have been read.
 void MsgBox(const String& text);
 
 }  // namespace framework

@@ -1,14 +1,11 @@
 #include "framework/events/run_loop.h"
 
-#include <cxxabi.h>
-
-#include <cstdlib>
-#include <memory>
+#include <iostream>
 #include <new>
-#include <string>
-#include <typeinfo>
+#include <string_view>
 #include <utility>
 
+#include "framework/events/failure_text.h"
 #include "framework/events/toolkit.h"
 #include "framework/events/ui_trap.h"
 
@@ -30,25 +27,18 @@ RunLoop& State() {
   return state;
 }
 
-String Describe(const RuntimeException& exception) {
-  std::string text(exception.ClassName());
-  if (!exception.Message().View().empty()) text.append(": ").append(exception.Message());
-  text.append(" (error number ").append(std::to_string(exception.ErrorNumber())).append(")");
+/// The message of a refusal, which is made while there is memory for it.
+const String& NoMemory() {
+  static const auto& text = *new String("The system has no memory left.");
   return text;
 }
 
-String Describe(const std::exception_ptr& failure) {
+/// Whatever a toolkit fails at, the failure is told.
+void Report(std::string_view text) noexcept {
   try {
-    std::rethrow_exception(failure);
-  } catch (const RuntimeException& exception) {
-    return Describe(exception);
-  } catch (const std::exception& exception) {
-    const std::unique_ptr<char, decltype(&std::free)> name(
-        abi::__cxa_demangle(typeid(exception).name(), nullptr, nullptr, nullptr), &std::free);
-    const char* const class_name = name != nullptr ? name.get() : typeid(exception).name();
-    return String(std::string(class_name) + ": " + exception.what());
+    Toolkit::Current().ReportFailure(text);
   } catch (...) {
-    return "A failure of an unknown class.";
+    std::cerr << text << std::endl;
   }
 }
 
@@ -56,7 +46,7 @@ void CallWithMemoryFailures(const std::function<void()>& function) {
   try {
     function();
   } catch (const std::bad_alloc&) {
-    RuntimeRaiseException(OutOfMemoryException("The system has no memory left."));
+    RuntimeRaiseException(OutOfMemoryException(NoMemory()));
   }
 }
 
@@ -68,6 +58,7 @@ void CallWork(void* work) {
 }  // namespace
 
 void _StartRunLoop() {
+  NoMemory();
   State() = {};
   State().main_thread = std::this_thread::get_id();
 }
@@ -124,17 +115,18 @@ void _RunEvent(const std::function<void()>& work) noexcept {
     failure = std::current_exception();
   }
   if (failure == nullptr) return;
+  if (State().escaped != nullptr) return Report(FailureText(failure).View());
   State().escaped = failure;
   Toolkit::Current().Quit();
 }
 
-void UnhandledException(const RuntimeException& exception) {
-  Toolkit::Current().ReportFailure(Describe(exception));
+void UnhandledException(const RuntimeException& exception) noexcept {
+  Report(FailureText(exception).View());
 }
 
-void _UnhandledException(const std::exception_ptr& exception) {
+void _UnhandledException(const std::exception_ptr& exception) noexcept {
   State().exit_status = 1;
-  Toolkit::Current().ReportFailure(Describe(exception));
+  Report(FailureText(exception).View());
 }
 
 int _EndRunLoop() {

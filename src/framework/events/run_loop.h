@@ -45,16 +45,23 @@ void _RuntimeSetExceptionHelper(ExceptionFunction function);
 /// and is raised again here.
 void _RuntimeRun();
 
-/// Runs one event of the user's or of the system's under the application-level handling. Nothing is
-/// raised into the toolkit, whose code is between the event and the run loop: what that handling
-/// lets through ends the loop, and _RuntimeRun raises it.
+/// Runs one event of the user's or of the system's under the application-level handling. This is
+/// the one road on which a toolkit calls work of ours. Nothing is raised into the toolkit, whose
+/// code is between the event and the run loop: what that handling lets through ends the loop, and
+/// _RuntimeRun raises it. One inside another is an event of its own.
 void _RunEvent(const std::function<void()>& work) noexcept;
+/// The same road for what a toolkit asks: what the work returns, or otherwise where it fails.
+template <class Answer, class Work>
+Answer _RunQuestion(Answer otherwise, const Work& work) noexcept {
+  _RunEvent([&] { otherwise = work(); });
+  return otherwise;
+}
 
 /// The last resort for a failure in an event: it is reported, and the program goes on.
-void UnhandledException(const RuntimeException& exception);
+void UnhandledException(const RuntimeException& exception) noexcept;
 /// The last resort for a failure of any class that leaves the program's outermost block: it is
 /// reported, and the exit status becomes 1.
-void _UnhandledException(const std::exception_ptr& exception);
+void _UnhandledException(const std::exception_ptr& exception) noexcept;
 
 /// Ends the run. The exit status: 0 after a normal end, 1 after a failure that left the outermost
 /// block.

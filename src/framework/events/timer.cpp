@@ -29,7 +29,7 @@ std::map<_CallLaterTimer*, Ref<_CallLaterTimer>>& sCallLaterTimers() {
 void _CallLaterTimer::Action() {
   const Ref<_CallLaterTimer> self(this);
   sCallLaterTimers().erase(this);
-  _RunEvent(method_);
+  method_();
 }
 
 }  // namespace
@@ -39,7 +39,9 @@ void Timer::CallLater(std::int64_t delay_ms, std::function<void()> method) {
   const auto timer = RuntimeNewObject<_CallLaterTimer>(std::move(method));
   sCallLaterTimers().emplace(timer.Get(), timer);
   Toolkit::Current().CallLater(delay_ms, [live = RuntimeNewObject<WeakRef>(timer)] {
-    if (const Ref<Object> object = live->Value()) static_cast<_CallLaterTimer&>(*object).Action();
+    _RunEvent([&live] {
+      if (const auto object = live->Value()) static_cast<_CallLaterTimer&>(*object).Action();
+    });
   });
 }
 

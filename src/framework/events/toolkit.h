@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <string_view>
 
 #include "framework/values/ref.h"
 #include "framework/values/string.h"
@@ -34,10 +35,15 @@ class Toolkit {
   virtual void Run() = 0;
   /// Ends the event loop once the running event is over; a loop not yet begun ends at once.
   virtual void Quit() = 0;
-  /// Shows a text and waits until the user has read it.
+  /// Tells the user a text, and comes back before it is read. Texts are told one after the other;
+  /// one from before Initialise waits for it.
   virtual void ShowMessage(const String& text) = 0;
-  /// Reports a failure that no one took: its class, message and error number as one text.
-  virtual void ReportFailure(const String& text) = 0;
+  /// Tells of a failure that no one took, in the same way: its class, message and error number as
+  /// one text. There may be no memory, and so no more than a line on stderr.
+  virtual void ReportFailure(std::string_view text) = 0;
+  /// Comes back once the user has read all that he was told, as far as there is anything to show
+  /// it.
+  virtual void WaitUntilRead() {}
   /// Runs work once from the event loop, not before delay_ms milliseconds have gone. Before
   /// Initialise there is nothing in the system that could ask for it.
   virtual void CallLater(std::int64_t delay_ms, std::function<void()> work) = 0;

@@ -98,7 +98,7 @@ void MemoryToolkit::Quit() {
 
 void MemoryToolkit::ShowMessage(const String& text) { Log("message " + std::string(text)); }
 
-void MemoryToolkit::ReportFailure(const String& text) { Log("failure " + std::string(text)); }
+void MemoryToolkit::ReportFailure(std::string_view text) { Log("failure " + std::string(text)); }
 
 void MemoryToolkit::CallLater(std::int64_t, std::function<void()> work) { Post(std::move(work)); }
 

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include "framework/controls/reading.h"
+#include "toolkit/qt/guarded.h"
 #include "toolkit/qt/text.h"
 
 namespace toolkit::qt {
@@ -49,7 +50,7 @@ CheckBoxPeer::CheckBoxPeer(const framework::Ref<framework::CheckBox>& box, QWidg
       box_(box),
       widget_(static_cast<QCheckBox*>(&Widget())) {
   // A screen reader turns the tick over without a click.
-  QObject::connect(widget_, &QCheckBox::toggled, Context(), [this](bool ticked) {
+  Connect(widget_, &QCheckBox::toggled, Context(), [this](bool ticked) {
     if (ticked == box_->Value()) return;
     box_->Toggle();
     TellOutcome({});

@@ -1,10 +1,10 @@
 #include "toolkit/qt/listbox_peer.h"
 
 #include <QItemSelectionModel>
-#include <QMetaObject>
 #include <QScopedValueRollback>
 
 #include "framework/values/text.h"
+#include "toolkit/qt/guarded.h"
 
 namespace toolkit::qt {
 
@@ -33,8 +33,8 @@ ListboxPeer::ListboxPeer(const Ref<Listbox>& list, QWidget* content)
       widget_(static_cast<ListView*>(&Widget())),
       model_(new ListModel(list, widget_)) {
   widget_->setModel(model_);
-  QObject::connect(widget_->selectionModel(), &QItemSelectionModel::selectionChanged, Context(),
-                   [this] { TakeSelection(); });
+  Connect(widget_->selectionModel(), &QItemSelectionModel::selectionChanged, Context(),
+          [this] { TakeSelection(); });
 }
 
 void ListboxPeer::Title(const QString& title, ControlPeer&) { widget_->setAccessibleName(title); }
@@ -55,8 +55,7 @@ void ListboxPeer::ShareColumns() {
 void ListboxPeer::RefreshLater() {
   if (refresh_pending_) return;
   refresh_pending_ = true;
-  QMetaObject::invokeMethod(
-      Context(), [this] { Refresh(); }, Qt::QueuedConnection);
+  RunLater(Context(), [this] { Refresh(); });
 }
 
 void ListboxPeer::Refresh() {

@@ -4,6 +4,7 @@
 #include <QKeySequence>
 #include <QMenu>
 
+#include "toolkit/qt/guarded.h"
 #include "toolkit/qt/text.h"
 
 namespace toolkit::qt {
@@ -27,7 +28,7 @@ void AddEntry(const Ref<MenuItem>& item, QMenu& menu) {
   action->setShortcut(Shortcut(*item));
   action->setEnabled(item->Enabled());
   action->setVisible(item->Visible());
-  QObject::connect(action, &QAction::triggered, &menu, [item] { item->Choose(); });
+  Connect(action, &QAction::triggered, &menu, [item] { item->Choose(); });
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <QStyleOptionComboBox>
 #include <algorithm>
 
+#include "toolkit/qt/guarded.h"
 #include "toolkit/qt/text.h"
 
 namespace toolkit::qt {
@@ -35,7 +36,7 @@ PopupMenuPeer::PopupMenuPeer(const framework::Ref<framework::PopupMenu>& menu, Q
     : ControlPeer(menu, new Popup(content)),
       menu_(menu),
       widget_(static_cast<QComboBox*>(&Widget())) {
-  QObject::connect(widget_, &QComboBox::activated, Context(), [this](int row) {
+  Connect(widget_, &QComboBox::activated, Context(), [this](int row) {
     if (row == menu_->ListIndex()) return;
     menu_->Choose(row);
     TellOutcome(widget_->currentText());

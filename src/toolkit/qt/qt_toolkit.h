@@ -2,20 +2,25 @@
 
 #include <QApplication>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "framework/events/toolkit.h"
+#include "toolkit/qt/message_boxes.h"
+#include "toolkit/qt/start_guard.h"
 
 namespace toolkit::qt {
 
 /// The toolkit of the real program: Qt 6 Widgets. It reads no command line, and lays everything out
 /// from the left, whatever language the system speaks. The pictures below ":/icon", where the
-/// program has some, are the icon of its windows. Without a display, Initialise ends the process
-/// with one line on stderr and the status 1.
+/// program has some, are the icon of its windows. A start that cannot go on, without a display say,
+/// ends the process with one line on stderr and the status 1. What is told in a box stands on
+/// stderr too.
 class QtToolkit : public framework::Toolkit {
  public:
   /// The name stands over message boxes; by its desktop entry the system knows the program.
-  QtToolkit(std::string application_name, std::string desktop_entry);
+  QtToolkit(std::string_view application_name, std::string_view desktop_entry);
 
   void Initialise() override;
   std::unique_ptr<framework::WindowPeer> Show(
@@ -23,16 +28,21 @@ class QtToolkit : public framework::Toolkit {
   void Run() override;
   void Quit() override;
   void ShowMessage(const framework::String& text) override;
-  /// In a message box, and as a line on stderr.
-  void ReportFailure(const framework::String& text) override;
+  void ReportFailure(std::string_view text) override;
+  void WaitUntilRead() override;
   void CallLater(std::int64_t delay_ms, std::function<void()> work) override;
 
  private:
+  void Tell(QMessageBox::Icon icon, std::string_view text);
+
+  std::optional<StartGuard> start_{std::in_place};
   std::string name_;
   std::string desktop_entry_;
   int argument_count_ = 1;
   char* arguments_[2] = {name_.data(), nullptr};
   std::unique_ptr<QApplication> application_;
+  MessageBoxes boxes_{QString::fromStdString(name_)};
+  bool running_ = false;
   bool quit_ = false;
 };
 

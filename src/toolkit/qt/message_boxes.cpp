@@ -1,0 +1,50 @@
+#include "toolkit/qt/message_boxes.h"
+
+#include <QApplication>
+#include <algorithm>
+#include <utility>
+
+#include "toolkit/qt/guarded.h"
+#include "toolkit/qt/start_guard.h"
+
+namespace toolkit::qt {
+
+namespace {
+
+/// What a box takes, with the fonts and the style that it may be the first to use.
+constexpr std::size_t kRoomForABox = std::size_t{8} << 20;
+
+}  // namespace
+
+void MessageBoxes::Add(QMessageBox::Icon icon, const QString& text) {
+  RunLater(this, [this, message = Message{icon, text}] {
+    --on_the_way_;
+    if (std::ranges::find(waiting_, message) == waiting_.end()) waiting_.push_back(message);
+    ShowNext();
+  });
+  ++on_the_way_;
+}
+
+void MessageBoxes::WaitUntilRead() {
+  while (on_the_way_ > 0 || !waiting_.empty() || box_ != nullptr) {
+    QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  }
+}
+
+void MessageBoxes::ShowNext() {
+  // Qt does not survive a refusal in the making of a box. What was told is on stderr.
+  if (!HasRoom(kRoomForABox)) waiting_.clear();
+  if (box_ != nullptr || waiting_.empty()) return;
+  const Message message = std::move(waiting_.front());
+  waiting_.pop_front();
+  box_ = new QMessageBox(message.icon, title_, message.text, QMessageBox::Ok,
+                         QApplication::activeWindow());
+  box_->setTextFormat(Qt::PlainText);
+  box_->setModal(true);
+  Connect(box_.get(), &QMessageBox::finished, box_.get(), [this] { box_->deleteLater(); });
+  Connect(box_.get(), &QObject::destroyed, this,
+          [this] { RunLater(this, [this] { ShowNext(); }); });
+  box_->show();
+}
+
+}  // namespace toolkit::qt

@@ -1,0 +1,96 @@
+#include <QMessageBox>
+#include <QPointer>
+#include <QTimer>
+#include <thread>
+
+#include "framework/events/msg_box.h"
+#include "framework/events/timer.h"
+#include "qt/qt_hand.h"
+#include "support/behaviour.h"
+
+namespace {
+
+using namespace framework;
+using namespace support;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+/// The box that the user is shown; null while there is none.
+QMessageBox* Box() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }
+
+/// Waits for a box, reads it and dismisses it.
+std::string Read() {
+  if (!QTest::qWaitFor([] { return Box() != nullptr; })) return "no box";
+  const QPointer<QMessageBox> box = Box();
+  const std::string text = box->text().toStdString();
+  box->accept();
+  EXPECT_TRUE(QTest::qWaitFor([&box] { return box == nullptr; }));
+  return text;
+}
+
+using Guarded = Behaviour<QtHand>;
+
+TEST_F(Guarded, TextsAreToldOneAfterTheOtherWhateverAskedForThem) {
+  MsgBox("before there is a screen");
+  ProgramOn::Open("a\nb\nshort");
+  EXPECT_TRUE(Native().isVisible()) << "nothing waits for the user";
+  for (int twice = 0; twice < 2; ++twice) toolkit_.ReportFailure("a failure");
+  std::thread([this] { toolkit_.ReportFailure("of another thread"); }).join();
+  EXPECT_EQ(Read(), "before there is a screen");
+  EXPECT_THAT(Read(), HasSubstr("OutOfBoundsException"));
+  EXPECT_EQ(Read(), "a failure") << "which is told once, as it waits";
+  EXPECT_EQ(Read(), "of another thread");
+  QApplication::processEvents();
+  EXPECT_EQ(Box(), nullptr);
+}
+
+TEST_F(Guarded, FailureThatEndsTheProgramIsReadFirst) {
+  folder_.Write(library::kFileName, kFourScales);
+  std::vector<std::string> told;
+  toolkit_.before_the_window = [&told] {
+    QTimer::singleShot(50, [&told] {
+      for (int i = 0; i < 2; ++i) told.push_back(Read());
+    });
+    // Before the loop, and so before its end, has begun.
+    _RunEvent([] { throw std::runtime_error("odd"); });
+    _RunEvent([] { throw std::runtime_error("odder"); });
+  };
+  EXPECT_EQ(shell::main(), 1);
+  EXPECT_THAT(told, ElementsAre("std::runtime_error: odder", "std::runtime_error: odd"));
+}
+
+/// From now on each operation on the user interface fails, as if it came from another thread; or it
+/// does not any more.
+void LetOperationsFail(bool fail) {
+  fail ? std::thread(&_StartRunLoop).join() : _StartRunLoop();
+  _SetRunLoopApplication(getAppObject().Get());
+}
+
+TEST_F(Guarded, NothingIsThrownThroughTheToolkit) {
+  Open();
+  hand_->Tick(0);
+  const QAbstractItemModel& model = *Find<QTableView>("lbContaining").model();
+  const auto nothing = [] {};
+  const std::tuple<const char*, std::function<void()>, std::function<void()>> calls[] = {
+      {"a tick", nothing, [&] { hand_->Tick(4); }},
+      {"a root", nothing, [] { QtHand::Press(Find("pmRoot"), Qt::Key_Down); }},
+      {"a row", nothing, [&] { hand_->ChooseRow(0); }},
+      {"an answer", nothing, [&] { EXPECT_FALSE(model.index(0, 0).data().isValid()); }},
+      {"a menu", nothing, [] { Native().findChild<QAction*>("FileQuit")->trigger(); }},
+      {"a refresh", [&] { window_->lbExact()->AddRow({"a"}); },
+       [] { QApplication::processEvents(); }},
+      {"a timer", [] { Timer::CallLater(0, [] { MsgBox("late"); }); }, nothing},
+  };
+  for (const auto& [name, before, call] : calls) {
+    SCOPED_TRACE(name);
+    before();
+    LetOperationsFail(true);
+    call();
+    QApplication::processEvents();
+    LetOperationsFail(false);
+    EXPECT_THAT(Read(), HasSubstr("ThreadAccessingUIException"));
+    while (QTest::qWaitFor([] { return Box() != nullptr; }, 50)) Read();
+  }
+}
+
+}  // namespace
