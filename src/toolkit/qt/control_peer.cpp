@@ -5,10 +5,10 @@
 
 #include "framework/controls/reading.h"
 #include "framework/controls/window.h"
-#include "framework/events/run_loop.h"
 #include "toolkit/qt/announce.h"
 #include "toolkit/qt/check_box_peer.h"
 #include "toolkit/qt/condensed.h"
+#include "toolkit/qt/guarded.h"
 #include "toolkit/qt/label_peer.h"
 #include "toolkit/qt/listbox_peer.h"
 #include "toolkit/qt/popup_menu_peer.h"
@@ -82,13 +82,11 @@ void ControlPeer::Remark(const QString& remark) {
 
 void ControlPeer::TellOutcome(const QString& news) {
   if (!QAccessible::isActive()) return;
-  const auto tell = [this, news] {
+  RunLater(Context(), [this, news] {
     QStringList words{news, Shown(_Tally(*control_->Window()))};
     words.removeAll(QString());
     Announce(*widget_->window(), words.join(QLatin1String(". ")));
-  };
-  QMetaObject::invokeMethod(
-      Context(), [tell] { _RunEvent(tell); }, Qt::QueuedConnection);
+  });
 }
 
 void ControlPeer::Place() {
