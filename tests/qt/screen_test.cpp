@@ -66,19 +66,52 @@ TEST_F(Screen, StarIsWholeAndGreenInItsStrip) {
   Open();
   hand_->Tick(0);
   hand_->ChooseRow(0);
-  const QImage star = Find("lbStar0").grab().toImage();
-  const QImage mask = star.createMaskFromColor(star.pixel(0, 0), Qt::MaskInColor);
-  const QRect ink = QRegion(QBitmap::fromImage(mask)).boundingRect();
-  EXPECT_GE(ink.width(), 10) << "large";
-  EXPECT_TRUE(QRect(0, 1, 15, 18).contains(ink)) << "whole";
-  EXPECT_LE(std::abs(ink.center().y() - 9), 1) << "at its row";
-  int green = 0;
-  for (int y = ink.top(); y <= ink.bottom(); ++y) {
-    for (int x = ink.left(); x <= ink.right(); ++x) {
-      green += star.pixelColor(x, y) == QColor(0, 129, 0);
+  for (const char* const member : {"0", "5"}) {
+    QWidget& label = Find("lbStar" + std::string(member));
+    const QRect box = Find("cbScale" + std::string(member)).geometry();
+    const QImage star = label.grab().toImage();
+    const QImage mask = star.createMaskFromColor(star.pixel(0, 0), Qt::MaskInColor);
+    const QRect ink = QRegion(QBitmap::fromImage(mask)).boundingRect();
+    EXPECT_GE(ink.width(), 10) << "large";
+    EXPECT_TRUE(QRect(0, 1, 15, 19).contains(ink)) << "whole";
+    EXPECT_LE(std::abs(label.y() + ink.center().y() - box.center().y()), 1) << "level with its box";
+    int green = 0;
+    for (int y = ink.top(); y <= ink.bottom(); ++y) {
+      for (int x = ink.left(); x <= ink.right(); ++x) {
+        green += star.pixelColor(x, y) == QColor(0, 129, 0);
+      }
+    }
+    EXPECT_GE(green, 5) << "whatever the font draws at the very middle";
+  }
+}
+
+/// Runs at fractional scales too.
+TEST_F(Screen, ListsHaveAllFourLinesOfTheirFrame) {
+  Open();
+  hand_->TickOther();
+  for (const bool dark : {false, true}) {
+    if (dark) hand_->ChangeAppearance();
+    const QImage picture = Native().grab().toImage();
+    const double scale = picture.devicePixelRatio();
+    for (const char* const name : {"lbExact", "lbContaining"}) {
+      SCOPED_TRACE(name);
+      const QPoint corner = Find(name).mapTo(&Native(), QPoint(0, 0));
+      const int left = qRound(scale * corner.x());
+      const int top = qRound(scale * corner.y());
+      const int right = qRound(scale * (corner.x() + Find(name).width())) - 1;
+      const int bottom = qRound(scale * (corner.y() + Find(name).height())) - 1;
+      const QRgb line = picture.pixel(left, top);
+      EXPECT_NE(line, picture.pixel(left - 1, top - 1));
+      int missing = 0;
+      for (int x = left; x <= right; ++x) {
+        missing += (picture.pixel(x, top) != line) + (picture.pixel(x, bottom) != line);
+      }
+      for (int y = top; y <= bottom; ++y) {
+        missing += (picture.pixel(left, y) != line) + (picture.pixel(right, y) != line);
+      }
+      EXPECT_EQ(missing, 0);
     }
   }
-  EXPECT_GE(green, 5) << "whatever the font draws at the very middle";
 }
 
 TEST_F(Screen, BoxesHaveOutlinesOnABlackGround) {

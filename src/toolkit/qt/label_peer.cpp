@@ -2,6 +2,8 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
+#include <optional>
 
 #include "toolkit/qt/text.h"
 
@@ -17,6 +19,13 @@ class InkLabel final : public QLabel {
  public:
   using QLabel::QLabel;
 
+  /// The height in the frame at which the ink's middle stands, as far as the frame holds it; half
+  /// the frame's own until this is called.
+  void StandAt(double height) {
+    middle_ = height;
+    update();
+  }
+
  protected:
   void paintEvent(QPaintEvent* event) override {
     const bool centred = (alignment() & Qt::AlignHCenter) != 0;
@@ -26,8 +35,14 @@ class InkLabel final : public QLabel {
     QPainterPath outline;
     outline.addText({}, font(), text());
     const QRectF ink = outline.boundingRect();
-    painter.drawText(QRectF(rect()).center() - ink.center(), text());
+    const double half = std::min(ink.height(), 1.0 * height()) / 2;
+    const QPointF middle(width() / 2.0,
+                         std::clamp(middle_.value_or(height() / 2.0), half, height() - half));
+    painter.drawText(middle - ink.center(), text());
   }
+
+ private:
+  std::optional<double> middle_;
 };
 
 }  // namespace
@@ -41,6 +56,9 @@ LabelPeer::LabelPeer(const Ref<Label>& label, QWidget* content)
 
 void LabelPeer::RemarkOn(ControlPeer& other) {
   remarks_on_ = &other;
+  const RectControl& box = other.Control();
+  static_cast<InkLabel*>(widget_)->StandAt(static_cast<double>(box.Top() - label_->Top()) +
+                                           static_cast<double>(box.Height()) / 2);
   TellRemark();
 }
 
