@@ -5,13 +5,13 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
 
 #include "toolkit/qt/condensed.h"
+#include "toolkit/qt/outline.h"
 #include "toolkit/qt/tool_tip.h"
 
 namespace toolkit::qt {
@@ -110,8 +110,7 @@ void ListView::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
   if (!hasFocus()) return;
   QPainter painter(viewport());
-  painter.setPen(palette().color(QPalette::Highlight));
-  painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+  DrawOutline(painter, viewport()->rect(), palette().color(QPalette::Highlight));
 }
 
 void ListView::resizeEvent(QResizeEvent* event) {

@@ -1,35 +1,45 @@
 #include "toolkit/qt/outline_style.h"
 
-#include <QPainter>
+#include <QAbstractItemView>
 #include <QStyleOption>
+
+#include "toolkit/qt/outline.h"
 
 namespace toolkit::qt {
 
 namespace {
 
-void DrawOutline(const QStyleOption& option, QPainter& painter, const QColor& color) {
-  painter.save();
-  painter.setPen(color);
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
-  painter.restore();
+bool IsDark(const QPalette& palette) {
+  return palette.color(QPalette::WindowText).lightness() >=
+         palette.color(QPalette::Window).lightness();
 }
 
 void DrawOnDark(const QStyleOption& option, QPainter& painter) {
+  if (!IsDark(option.palette)) return;
   QColor color = option.palette.color(QPalette::WindowText);
-  if (color.lightness() < option.palette.color(QPalette::Window).lightness()) return;
   color.setAlphaF(0.6F);
-  DrawOutline(option, painter, color);
+  DrawOutline(painter, option.rect, color);
+}
+
+/// Qt's own lines lie beside the pixels of a fractional scale, where what the list shows covers
+/// some of them.
+void DrawListFrame(const QStyleOption& option, QPainter& painter) {
+  painter.fillRect(option.rect, option.palette.base());
+  if (IsDark(option.palette)) return DrawOnDark(option, painter);
+  DrawOutline(painter, option.rect, option.palette.color(QPalette::Window).darker(130));
 }
 
 }  // namespace
 
 void OutlineStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                  QPainter* painter, const QWidget* widget) const {
+  if (element == PE_Frame && qobject_cast<const QAbstractItemView*>(widget) != nullptr) {
+    return DrawListFrame(*option, *painter);
+  }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
-  if (element == PE_IndicatorCheckBox || element == PE_Frame) DrawOnDark(*option, *painter);
+  if (element == PE_IndicatorCheckBox) DrawOnDark(*option, *painter);
   if (element == PE_FrameFocusRect) {
-    DrawOutline(*option, *painter, option->palette.color(QPalette::Highlight));
+    DrawOutline(*painter, option->rect, option->palette.color(QPalette::Highlight));
   }
 }
 
