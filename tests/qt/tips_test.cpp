@@ -53,6 +53,20 @@ TEST_F(Tips, AreTheHelpOfTheListWhereNoCutCellLies) {
   EXPECT_EQ(At(*list.verticalScrollBar(), {5, 5}), help) << "the scroll bar";
 }
 
+TEST_F(Tips, LeaveARootAloneInAFontOfTwentyPixelsToo) {
+  toolkit_.before_the_window = [] {
+    QFont larger = QApplication::font();
+    larger.setPixelSize(20);
+    QApplication::setFont(larger);
+  };
+  Open();
+  for (int row = 0; row < 30; ++row) window_->lbContaining()->AddRow({"", "", "G# / Ab"});
+  auto& list = Find<QTableView>("lbContaining");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return list.verticalScrollBar()->isVisible(); }));
+  const QPoint root = list.visualRect(list.model()->index(1, 2)).center();
+  EXPECT_EQ(At(*list.viewport(), root), list.toolTip().toStdString()) << "it is not cut";
+}
+
 TEST_F(Tips, TellACutCellWholeAndPlainHoweverItIsWritten) {
   Open();
   QString letters;

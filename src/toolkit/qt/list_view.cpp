@@ -161,10 +161,12 @@ void ListView::SetRowHeight() {
 }
 
 void ListView::ShareWidth() {
-  // The columns do not move when the scroll bar comes and goes, and those of two lists of one width
-  // stand in line: it is the last one that reaches as far as there is room.
+  // The columns are shared out beside the scroll bar's place, also while there is none: they do not
+  // move when it comes, and those of two lists of one width stand in line. The last one has what is
+  // left.
   const QSignalBlocker quiet(horizontalHeader());  // or the view would paint once more, later
-  const int room = width() - 2 * frameWidth();
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+  const int room = width() - 2 * frameWidth() - bar;
   const int last = static_cast<int>(shares_.size()) - 1;
   int end = 0;
   for (int column = 0; column <= last; ++column) {

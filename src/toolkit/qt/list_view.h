@@ -11,9 +11,9 @@ class ListView final : public QTableView {
  public:
   explicit ListView(QWidget* parent);
 
-  /// Widths in parts of 1000 of the list's, less its frame; a column without a width is not shown.
-  /// The last one reaches to the frame or, where there is one, to the scroll bar, and must have a
-  /// width.
+  /// Widths in parts of 1000 of the list's, less its frame and a scroll bar; a column without a
+  /// width is not shown. The last one, which must have a width, reaches to the scroll bar or, while
+  /// there is none, to the frame.
   void SetColumnShares(std::vector<int> shares);
 
  protected:
