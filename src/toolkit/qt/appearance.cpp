@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QStyle>
 
 #include "framework/events/run_loop.h"
 #include "framework/notifications/local_object_runtime.h"
@@ -45,9 +46,12 @@ void SetAccent(QPalette& palette, const QColor& accent) {
 }  // namespace
 
 Appearance::Appearance(QObject* application)
-    : QObject(application), told_(QApplication::palette()) {
+    : QObject(application),
+      first_(QApplication::palette()),
+      style_began_dark_(IsDark(QApplication::style()->standardPalette())),
+      told_(first_) {
   application->installEventFilter(this);
-  connect(&portal_, &SettingsPortal::Changed, this, [this] { FollowPortal(); });
+  connect(&portal_, &SettingsPortal::Changed, this, [this] { FollowDesktop(); });
 }
 
 bool Appearance::eventFilter(QObject* watched, QEvent* event) {
@@ -57,13 +61,28 @@ bool Appearance::eventFilter(QObject* watched, QEvent* event) {
     QMetaObject::invokeMethod(
         this, [this] { TellOfChange(); }, Qt::QueuedConnection);
   }
+  // The platform's theme may tell of a flip before the portal does, after it, or alone.
+  if (event->type() == QEvent::ThemeChange && !following_) {
+    following_ = true;
+    QMetaObject::invokeMethod(
+        this, [this] { FollowDesktop(); }, Qt::QueuedConnection);
+  }
   return QObject::eventFilter(watched, event);
 }
 
-void Appearance::FollowPortal() {
-  // An empty palette is the one that Qt has from the desktop or its style.
+QPalette Appearance::OwnOfQt() const {
+  // An empty palette is the one that Qt has from the desktop or its style. With a theme such as
+  // gtk3, Qt 6.4 has for ever the one of the start, and only the style knows that another is
+  // wanted.
   QApplication::setPalette(QPalette());
-  QPalette palette = QApplication::palette();
+  const QPalette own = QApplication::palette();
+  const QPalette of_style = QApplication::style()->standardPalette();
+  return own == first_ && IsDark(of_style) != style_began_dark_ ? of_style : own;
+}
+
+void Appearance::FollowDesktop() {
+  following_ = false;
+  QPalette palette = OwnOfQt();
   if (portal_.Dark() && !IsDark(palette)) palette = DarkPalette();
   if (portal_.Accent()) SetAccent(palette, *portal_.Accent());
   if (palette != QApplication::palette()) QApplication::setPalette(palette);

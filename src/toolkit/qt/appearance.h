@@ -19,11 +19,15 @@ class Appearance final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void FollowPortal();
+  void FollowDesktop();
   void TellOfChange();
+  QPalette OwnOfQt() const;
 
   SettingsPortal portal_{this};
-  QPalette told_;  ///< as the notification centre knows it
+  const QPalette first_;         ///< Qt's own, at the start
+  const bool style_began_dark_;  ///< what the style would have taken then
+  QPalette told_;                ///< as the notification centre knows it
+  bool following_ = false;
   bool telling_ = false;
 };
 
