@@ -1,8 +1,7 @@
 """A screen reader's walk through the window, on the accessibility bus."""
 
-import time
-
 import pyatspi
+from on_the_bus import all_of, do, quit_by_menu, until, window
 
 HELP = "Select which pitch classes must appear in the scale."
 TOLD = "In the chosen scale. " + HELP
@@ -10,33 +9,12 @@ NOTES = ["C", "C# / Db", "D", "D# / Eb", "E", "F", "F# / Gb", "G", "G# / Ab", "A
 C_MAJOR = ["C", "D", "E", "F", "G", "A", "B"]
 
 
-def until(what, expected, found):
-    """Asks until the answer is the expected one: it comes from another process."""
-    for _ in range(100):
-        answer = found()
-        if answer == expected:
-            return
-        time.sleep(0.05)
-    raise SystemExit(f"{what}: expected {expected!r}, found {answer!r}")
-
-
-def program():
-    for application in pyatspi.Registry.getDesktop(0):
-        if application is not None and application.name == "Orrel Pitchsieve":
-            return application
-    return None
-
-
-def all_of(role):
-    return pyatspi.findAllDescendants(window, lambda item: item.getRole() == role)
-
-
 def has(item, state):
     return item.getState().contains(state)
 
 
 def tick(name):
-    boxes[name].queryAction().doAction(0)
+    do(boxes[name])
 
 
 def rows(name):
@@ -47,11 +25,10 @@ def rows(name):
     ]
 
 
-until("the program on the bus", True, lambda: program() is not None and len(program()) == 1)
-window = program()[0]
-boxes = {box.name: box for box in all_of(pyatspi.ROLE_CHECK_BOX)}
-tables = {table.name: table for table in all_of(pyatspi.ROLE_TABLE)}
-(popup,) = all_of(pyatspi.ROLE_COMBO_BOX)
+top = window()
+boxes = {box.name: box for box in all_of(top, pyatspi.ROLE_CHECK_BOX)}
+tables = {table.name: table for table in all_of(top, pyatspi.ROLE_TABLE)}
+(popup,) = all_of(top, pyatspi.ROLE_COMBO_BOX)
 
 until("the boxes", sorted([*NOTES, "Include Other Roots", "Roots in List Only"]), lambda: sorted(boxes))
 for name, box in boxes.items():
@@ -83,7 +60,7 @@ def descriptions():
 
 
 def labels_shown():
-    return sorted(label.name for label in all_of(pyatspi.ROLE_LABEL) if has(label, pyatspi.STATE_SHOWING))
+    return sorted(label.name for label in all_of(top, pyatspi.ROLE_LABEL) if has(label, pyatspi.STATE_SHOWING))
 
 
 titles = ["Containing All Notes", "Exact Match", "Notes in Scale", "Root Note"]
@@ -94,4 +71,5 @@ until("the stars", [TOLD if name in C_MAJOR else HELP for name in NOTES], descri
 until("their labels", sorted(titles + ["In the chosen scale."] * 7), labels_shown)
 tick("E")
 until("no star any more", [HELP] * 12, descriptions)
-print("Read, ticked and chosen from on the accessibility bus.")
+quit_by_menu(top)
+print("Read, ticked, chosen from and quit on the accessibility bus.")

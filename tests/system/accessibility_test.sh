@@ -3,7 +3,7 @@
 # usage: accessibility_test.sh PROGRAM
 set -euo pipefail
 program=$(realpath "$1")
-client=$(dirname "$(realpath "$0")")/accessibility_client.py
+tests=$(dirname "$(realpath "$0")")
 work=$(mktemp -d)
 started=()
 trap 'for id in "${started[@]}"; do kill "$id" 2>/dev/null || true; done; rm -rf "$work"' EXIT
@@ -17,9 +17,17 @@ for _ in $(seq 100); do [ -s "$work/display" ] && break; sleep 0.05; done
 export DISPLAY=:$(tr -d '\n' <"$work/display")
 openbox >"$work/openbox.log" 2>&1 &
 started+=($!)
-timeout 90 dbus-run-session -- bash -c '
-  /usr/libexec/at-spi-bus-launcher --launch-immediately >&2 &
-  bus=$!
-  "$0" &
-  trap "kill $! $bus" EXIT
-  /usr/bin/python3 "$1"' "$program" "$client" 2>"$work/log" || { cat "$work/log"; echo "FAILED"; exit 1; }
+# walk PROGRAM CLIENT: the client goes through the window and quits, and the program ends with status 0.
+walk() {
+  timeout 90 dbus-run-session -- bash -c '
+    /usr/libexec/at-spi-bus-launcher --launch-immediately >&2 &
+    bus=$!
+    "$0" &
+    trap "kill $! $bus" EXIT
+    /usr/bin/python3 "$1" && wait $!' "$1" "$tests/$2" 2>"$work/log" || { cat "$work/log"; echo "FAILED"; exit 1; }
+}
+walk "$program" accessibility_client.py
+mkdir -p "$work/bin/Resources"
+cp "$program" "$work/bin/program"
+printf 'a\nb\nBank,All%s\nshort' "$(printf ',TRUE%.0s' {1..12})" >"$work/bin/Resources/Orrel Scales.csv"
+walk "$work/bin/program" accessibility_failures.py
