@@ -10,17 +10,28 @@ import json
 import sys
 
 # What a ratio may be, and what some times may be in seconds.
-WANTED = {"Search": 2.0, "Pass": 2.0, "Load": 3.0, "Screen": 1.3, "Start": 1.1, "StartOnBus": 1.1}
+WANTED = {"Search": 2.0, "Pass": 2.5, "Load": 8.0, "Screen": 1.3, "Start": 1.1, "StartOnBus": 1.1}
 LIMITS = {
+    ("Pass", "50000", "0"): 0.004,
+    ("Pass", "50000", "1"): 0.004,
     ("Screen", "0"): 0.016,
     ("Screen", "5000"): 0.016,
     ("Screen", "50000"): 0.3,
     ("Scroll", "50000"): 0.3,
 }
 WANTED_MEMORY = 1.1
-# The lines of the library that ships are shorter than the made-up ones, with as many fields. With
-# more records than ship, the screen shows a pass beside a baseline whose rows lie ready.
-NOT_HELD = {("Load", "0"), ("Screen", "5000"), ("Screen", "50000")}
+WANTED_SHARE = 0.01  # of a start, for loading the library that ships
+# 50,000 records fit no cache, so that their ratio is the machine's. Small libraries load in less
+# time than is worth a ratio. With more records than ship, the screen shows a pass beside a baseline
+# whose rows lie ready.
+NOT_HELD = {
+    ("Search", "50000"),
+    *(("Pass", "50000", answer) for answer in "012"),
+    ("Load", "0"),
+    ("Load", "500"),
+    ("Screen", "5000"),
+    ("Screen", "50000"),
+}
 UNITS = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3}
 LIBRARIES = {"0": "shipped"}
 ANSWERS = {"0": "smallest", "1": "median", "2": "largest"}
@@ -36,6 +47,10 @@ def with_unit(seconds):
     for unit, size in reversed(UNITS.items()):
         if seconds >= size or unit == "ns":
             return f"{seconds / size:.4g} {unit}"
+
+
+def seconds_of(result):
+    return result["real_time"] * UNITS[result["time_unit"]]
 
 
 def main():
@@ -57,16 +72,18 @@ def main():
         if name.endswith("Bare"):
             continue
         what = described(name, arguments)
-        seconds = ours["real_time"] * UNITS[ours["time_unit"]]
+        seconds = seconds_of(ours)
         line = f"{what:26}{with_unit(seconds):>12}"
         extra = [f"{key} {ours[key]:.0f}" for key in ("rows", "resident_KiB") if key in ours]
         limit = LIMITS.pop((name, *arguments), None)
-        if limit is not None and seconds > limit:
-            missed.append(f"{what}: more than {limit} s")
+        if limit is not None:
+            extra.append(f"wanted {with_unit(limit)}")
+            if seconds > limit:
+                missed.append(f"{what}: more than {with_unit(limit)}")
         bare = medians.get((name + "Bare", arguments))
         if bare is not None:
             compared.add(name)
-            ratio = seconds / (bare["real_time"] * UNITS[bare["time_unit"]])
+            ratio = seconds / seconds_of(bare)
             held = (name, *arguments) not in NOT_HELD
             wanted = f"{WANTED[name]:8.2f}" if held else f"{'-':>8}"
             line += f"{with_unit(seconds / ratio):>12}{ratio:8.2f}{wanted}"
@@ -82,8 +99,14 @@ def main():
         else:
             line += " " * 28
         print(f"{line}   {', '.join(extra)}".rstrip())
+    load, start = medians.get(("Load", ("0",))), medians.get(("Start", ()))
+    if load is not None and start is not None:
+        share = seconds_of(load) / seconds_of(start)
+        print(f"loading the shipped library: {share:.1%} of a start, wanted {WANTED_SHARE:.0%}")
+        if share > WANTED_SHARE:
+            missed.append(f"loading the shipped library: {share:.1%} of a start")
     missed += [f"{name}: not measured" for name in WANTED.keys() - compared]
-    missed += [f"{described(name, [size])}: not measured" for name, size in LIMITS]
+    missed += [f"{described(name, arguments)}: not measured" for name, *arguments in LIMITS]
     for line in missed:
         print(f"missed: {line}")
     return 1 if missed else 0
