@@ -23,6 +23,9 @@ Array<String> Split(const String& text, const String& delimiter) {
   const std::string_view cut = delimiter.View();
   std::string_view rest = text.View();
   std::vector<String> parts;
+  if (!cut.empty()) {
+    parts.reserve(static_cast<std::size_t>(std::count(rest.begin(), rest.end(), cut[0])) + 1);
+  }
   for (std::size_t at = 0; !cut.empty() && (at = rest.find(cut)) != rest.npos;) {
     parts.emplace_back(rest.substr(0, at));
     rest.remove_prefix(at + cut.size());
