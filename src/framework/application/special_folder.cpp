@@ -46,8 +46,8 @@ struct _SpecialFolderDesktop {
 
 /// The one object that answers for the special folders, made at the first use.
 _SpecialFolderDesktop& _SpecFold() {
-  static auto& folder = *new _SpecialFolderDesktop;
-  return folder;
+  static auto& _PlatformSpecialFolder = *new _SpecialFolderDesktop;
+  return _PlatformSpecialFolder;
 }
 
 }  // namespace
