@@ -18,7 +18,7 @@ class MainMenuBarClass final : public framework::MenuBar {
 /// The one menu bar, built at the first call.
 framework::Ref<MainMenuBarClass> MainMenuBar();
 
-/// Lets go of the menu bar; a later call of MainMenuBar builds another.
+/// Releases the menu bar; a later call of MainMenuBar builds another.
 void _ForgetMainMenuBar();
 
 }  // namespace menu

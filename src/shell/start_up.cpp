@@ -39,7 +39,7 @@ void _Main() {
 }
 
 void _EarlyStartup() {
-  // Sharp drawing is settled before there is anything to draw.
+  // High resolution is set before anything is drawn.
   Application::_SetSupportsHiDPI(true);
   _RuntimeInitExternalClasses();
   _InitPluginEntrypoints();

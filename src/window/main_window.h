@@ -13,7 +13,7 @@ class wdwMainClass final : public framework::Window, public matching::SearchWind
   const framework::ClassInfo& _Class() const override { return kClass; }
   static const framework::ClassInfo kClass;
 
-  /// Lets go of the note names, then of the library.
+  /// Releases the note names, then the library.
   ~wdwMainClass() override;
 
   const framework::Array<framework::String>& Labels() const override { return Labels_; }

@@ -12,7 +12,7 @@ namespace framework {
 /// The program as a whole. There is one object of it, which _RuntimeRegisterAppObject makes known.
 class Application : public _MacOSDistributedNotifications::iNotify, public RunLoopApplication {
  public:
-  /// Every application object hears of the system's appearance from its allocation on.
+  /// Registers the object for changes of the system's appearance.
   Application() { _MacOSDistributedNotifications::Register(*this); }
 
   /// Whether the program draws sharply on a screen of more than one pixel a point. Legal before any

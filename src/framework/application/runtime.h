@@ -15,7 +15,7 @@ struct Initializer {
   void (*tear_down)();
 };
 
-/// Brings the runtime up, on the main thread. A toolkit must have been made before.
+/// Starts the runtime, on the main thread. A toolkit must have been made before.
 void RuntimeInit();
 /// Sets up the framework's own shared state, then the program's, in the order of the list, which
 /// must outlive the program.
@@ -23,7 +23,7 @@ void RuntimePerformInitializers(std::span<const Initializer> program);
 
 void RuntimeSetFrameworkVersion(double version);
 double RuntimeFrameworkVersion();
-/// Places in the order of a start that have nothing to do here: C++ knows its classes without being
+/// Steps of a start that have nothing to do here: C++ knows its classes without being
 /// told, and there are no plug-ins.
 void _RuntimeInitExternalClasses();
 void _InitPluginEntrypoints();
@@ -34,10 +34,10 @@ Ref<Application> getAppObject();
 /// Finishes the framework's own making, the toolkit's included, and runs function, which may make
 /// the first window.
 void _RunFrameworkInitialization(void (*function)());
-/// Waits until the user has read what he was told, lets go of all windows, then undoes the
+/// Waits until the user has read what he was told, releases all windows, then undoes the
 /// initializers, in the opposite order.
 void RuntimePerformFinalizers();
-/// Tears the runtime down. The exit status: 0 after a normal end, 1 after a failure that left the
+/// Ends the runtime. The exit status: 0 after a normal end, 1 after a failure that left the
 /// outermost block.
 int RuntimeExit();
 

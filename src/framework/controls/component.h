@@ -23,7 +23,7 @@ class Peer {
 /// screen.
 class Mirrored : public Object {
  public:
-  /// The peer is the toolkit's, which takes it back with nullptr before it goes.
+  /// The toolkit owns the peer, and sets nullptr before it deletes it.
   void _SetPeer(Peer* peer) { peer_ = peer; }
   /// Tells the peer, if there is one.
   void _Changed(Change what) const {

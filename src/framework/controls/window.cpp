@@ -35,8 +35,8 @@ constexpr PropertyInfo kProperties[] = {
     Declare<&Window::MenuBarVisible>("MenuBarVisible"),
 };
 
-/// The windows that have been made, in that order; it keeps them alive. When a toolkit ends the
-/// process in mid-run, they must not be torn down around it: hence no destructor.
+/// The windows that have been made, in that order; it keeps them alive. It has no destructor: a
+/// toolkit may end the process during the run, and they must not be deleted then.
 std::vector<Ref<Window>>& Windows() {
   static auto& windows = *new std::vector<Ref<Window>>;
   return windows;

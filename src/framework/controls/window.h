@@ -105,7 +105,7 @@ class Window : public Component {
 /// The live window of the class with that name; nil when none has been made or it was closed.
 Ref<Window> _GetImplicitWindow(std::string_view class_name);
 
-/// Lets go of all windows.
+/// Releases all windows.
 void _ReleaseWindows();
 
 }  // namespace framework

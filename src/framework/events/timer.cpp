@@ -20,7 +20,7 @@ class _CallLaterTimer final : public Object {
   std::function<void()> method_;
 };
 
-/// The live timers; standing here is what keeps them alive until they fire.
+/// The live timers; this map keeps them alive until they fire.
 std::map<_CallLaterTimer*, Ref<_CallLaterTimer>>& sCallLaterTimers() {
   static auto& timers = *new std::map<_CallLaterTimer*, Ref<_CallLaterTimer>>;
   return timers;

@@ -78,8 +78,8 @@ bool TextInputStream::Ready() {
 
 void TextInputStream::Fill() {
   block_.resize(kBlock);
-  // The file's first bytes may come in pieces, from a file system over a network say: a byte-order
-  // mark is only seen whole, and with something behind it.
+  // The first bytes may come in pieces, over a network say. They must hold a whole byte-order mark
+  // and a byte behind it, or the file would seem to end there.
   const std::size_t wanted = started_ ? 1 : kByteOrderMark.size() + 1;
   std::size_t size = 0;
   ssize_t count = 1;

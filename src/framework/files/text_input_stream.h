@@ -27,7 +27,7 @@ class TextInputStream final : public Object {
   /// True as soon as the last line has been read, also when the file ends in a line end. It raises
   /// no IOException: a failure that it runs into is the next ReadLine's.
   bool EOF_();
-  /// Lets go of the file; what is left of it is not read. Closing twice is no error.
+  /// Closes the file; the rest of it is not read. Closing twice is no error.
   void Close();
 
   bool UseIOExceptions() const { return use_io_exceptions_; }

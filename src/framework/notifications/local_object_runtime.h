@@ -11,8 +11,8 @@
 namespace framework {
 
 /// The object runtime and notification centre where the system has none of the kind: classes with
-/// methods, objects, and one centre that delivers what it is given. It knows no inheritance and
-/// never forgets an object.
+/// methods, objects, and one centre that delivers what it is given. It has no inheritance and
+/// releases no object.
 class LocalObjectRuntime final : public ObjectRuntime {
  public:
   LocalObjectRuntime();

@@ -9,7 +9,7 @@ namespace framework::_MacOSDistributedNotifications {
 
 namespace {
 
-// The observer's class bears the same name at every run.
+// The observer's class has the same name at every run.
 constexpr const char* kObserverClass = "Orrl_k3Vt9QxB7mZ2pLr8HcW5nYd4Js";
 constexpr const char* kGotCalled = "gotCalled:";
 

@@ -6,7 +6,7 @@
 
 namespace framework {
 
-/// A thing of the system's object runtime, which alone knows what stands behind it; null for none.
+/// A handle of the system's object runtime, opaque to everyone else; null for none.
 using Ptr = void*;
 
 /// The operations of the system's object runtime and notification centre that a program uses to

@@ -5,8 +5,8 @@
 
 namespace framework {
 
-/// Base of everything that is shared by reference. It counts its references, goes with the last of
-/// them, and empties its weak references when it goes. The counts belong to the main thread: an
+/// Base of everything that is shared by reference. It counts its references, is deleted with the
+/// last of them, and empties its weak references then. The counts belong to the main thread: an
 /// object is never shared between threads.
 class Object {
  public:
@@ -32,8 +32,8 @@ class Object {
   void Release() noexcept {
     if (--references_ == 0) Go();
   }
-  /// Empties the weak references before any destructor: what runs there must not get hold of the
-  /// object again.
+  /// Empties the weak references before any destructor, so that none can reach the object through
+  /// them.
   void Go() noexcept;
   WeakLink& Link();
   void ForgetWeakReferences() noexcept;

@@ -21,8 +21,8 @@ class MemoryToolkit final : public framework::Toolkit {
   void ReportFailure(std::string_view text) override;
   void CallLater(std::int64_t delay_ms, std::function<void()> work) override;
 
-  /// Puts something to do into the queue, behind what stands there; the delay of a CallLater counts
-  /// for nothing.
+  /// Puts something to do into the queue, behind what stands there; the delay of a CallLater is
+  /// ignored.
   void Post(std::function<void()> work) { queue_.push_back(std::move(work)); }
   /// Called with each line as it comes into the log.
   void Observe(std::function<void(const std::string&)> observer) {
