@@ -55,7 +55,7 @@ void CompareScales(const SearchWindow& window) {
   containing->DeleteAllRows();
   const String selected = window.cbScale(0)->Caption();
   AddMatches(
-      window.Scale(), mask, [&] { return selected; }, *exact, *containing);
+      window.Scale(), mask, [&]() -> const String& { return selected; }, *exact, *containing);
   if (window.cbOther()->Value()) SweepOtherRoots(window, mask, *exact, *containing);
 }
 

@@ -14,7 +14,7 @@ namespace framework {
 namespace {
 
 constexpr std::size_t kBlock = 65536;
-constexpr std::size_t kLongestLine = 1024 * 1024;
+constexpr std::size_t kLongestLine = std::size_t{1024} * 1024;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// read() that goes on when a signal came between.
