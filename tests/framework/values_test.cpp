@@ -37,6 +37,20 @@ TEST_F(Values, OfNoUseAreRefusedOrTakenForEmpty) {
   EXPECT_EQ(Split("a,b", nullptr).LastIndex(), 0);
 }
 
+TEST_F(Values, ThatAreTextsHaveAnyLengthAndOutliveEachOther) {
+  for (const std::size_t size : {0U, 7U, 8U, 9U, 100U}) {
+    const std::string bytes(size, 'x');
+    String copy;
+    {
+      const String text(bytes);
+      copy = text;
+    }
+    const String moved = std::move(copy);
+    EXPECT_EQ(String(moved, "y").View(), bytes + "y");
+    EXPECT_EQ(moved.View(), bytes);
+  }
+}
+
 TEST_F(Values, RaiseWhenThereIsNoneToGiveOut) {
   EXPECT_EQ(Reported([] { *Ref<Thing>(); }),
             "failure NilObjectException: A nil reference was used: Thing (error number 0)");
