@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <bit>
 #include <concepts>
 #include <cstdint>
 #include <span>
@@ -31,7 +30,7 @@ struct Value {
   constexpr Value(std::string_view value) : type(Type::s), text(value) {}
   constexpr Value(const char* value) : Value(std::string_view(value)) {}
   constexpr Value(framework::Color value) : type(Type::c), color(value) {}
-  constexpr Value(float value) : type(Type::f4), number(std::bit_cast<std::uint32_t>(value)) {}
+  constexpr Value(float value) : type(Type::f4), number(__builtin_bit_cast(std::uint32_t, value)) {}
   constexpr Value(framework::FontUnits value)
       : type(Type::u1), number(static_cast<std::int64_t>(value)) {}
 };

@@ -1,6 +1,7 @@
 #include "window/layout.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "framework/values/failures.h"
 #include "window/kinds.h"
@@ -199,8 +200,9 @@ constexpr LabelRow kStars[] = {
 /// The block of the row with that name and index; nullptr when the table has none.
 template <const auto& kKind, const auto& kTable>
 const Block* Find(std::string_view name, std::int64_t index) {
-  const auto found = std::ranges::find_if(
-      kTable, [&](const auto& row) { return row.name == name && row.index == index; });
+  const auto found = std::find_if(std::begin(kTable), std::end(kTable), [&](const auto& row) {
+    return row.name == name && row.index == index;
+  });
   if (found == std::end(kTable)) return nullptr;
   return &encoder::kBlocks<kKind, kTable>[static_cast<std::size_t>(found - std::begin(kTable))];
 }

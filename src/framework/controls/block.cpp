@@ -1,7 +1,6 @@
 #include "framework/controls/block.h"
 
 #include <algorithm>
-#include <bit>
 #include <string>
 
 #include "framework/values/failures.h"
@@ -47,7 +46,9 @@ String BlockReader::Text() {
   return std::string_view(reinterpret_cast<const char*>(Take(size)), size);
 }
 
-float BlockReader::Float() { return std::bit_cast<float>(static_cast<std::uint32_t>(Integer(4))); }
+float BlockReader::Float() {
+  return __builtin_bit_cast(float, static_cast<std::uint32_t>(Integer(4)));
+}
 
 Color BlockReader::Colour() {
   const auto* const bytes = Take(4);

@@ -69,7 +69,7 @@ void Listbox::Append(std::span<const String> values) {
   const auto columns = static_cast<std::size_t>(column_count_);
   cells_.resize(cells_.size() + columns);
   const auto fitting = values.first(std::min(values.size(), columns));
-  std::ranges::copy(fitting, cells_.end() - column_count_);
+  std::copy(fitting.begin(), fitting.end(), cells_.end() - static_cast<std::ptrdiff_t>(columns));
   _Changed(Change::Rows);
   if (fitting.size() < values.size()) RaiseOutOfBoundsException(column_count_, column_count_ - 1);
 }

@@ -21,8 +21,9 @@ void MenuItem::Append(const Ref<MenuItem>& item) {
 
 bool MenuItem::Holds(const MenuItem& item) const {
   const auto items = children_._Items();
-  return this == &item ||
-         std::ranges::any_of(items, [&](const Ref<MenuItem>& child) { return child->Holds(item); });
+  return this == &item || std::any_of(items.begin(), items.end(), [&](const Ref<MenuItem>& child) {
+           return child->Holds(item);
+         });
 }
 
 Ref<MenuItem> MenuItem::Child(std::string_view name) const {

@@ -84,7 +84,7 @@ Ref<Control> Window::_ControlByName(std::string_view name) const {
 }
 
 Ref<Control> Window::_ControlByNameIndex(std::string_view name, std::int64_t index) const {
-  const auto found = std::ranges::find_if(registry_, [&](const Entry& entry) {
+  const auto found = std::find_if(registry_.begin(), registry_.end(), [&](const Entry& entry) {
     return entry.control->Index() == index && RuntimeStringCompare(entry.name, name) == 0;
   });
   return found == registry_.end() ? nullptr : found->control;
@@ -105,16 +105,18 @@ void Window::_Finish(const Ref<RectControl>& control) {
 void Window::Close() {
   _RunEvent([this] {
     closed_ = true;
-    if (std::ranges::all_of(Windows(), &Window::_Closed, &Ref<Window>::operator*)) {
+    if (std::all_of(Windows().begin(), Windows().end(),
+                    [](const auto& window) { return window->_Closed(); })) {
       Toolkit::Current().Quit();
     }
   });
 }
 
 Ref<Window> _GetImplicitWindow(std::string_view class_name) {
-  const auto found = std::ranges::find_if(Windows(), [&](const Ref<Window>& window) {
-    return !window->_Closed() && window->_Class().name == class_name;
-  });
+  const auto found =
+      std::find_if(Windows().begin(), Windows().end(), [&](const Ref<Window>& window) {
+        return !window->_Closed() && window->_Class().name == class_name;
+      });
   return found == Windows().end() ? nullptr : *found;
 }
 

@@ -92,7 +92,8 @@ void LocalObjectRuntime::Post(const String& name) {
 }
 
 LocalObjectRuntime::Class* LocalObjectRuntime::FindClass(const String& name) {
-  const auto found = std::ranges::find(classes_, name.View(), &Class::name);
+  const auto found = std::find_if(classes_.begin(), classes_.end(),
+                                  [&](const Class& known) { return known.name == name.View(); });
   return found == classes_.end() ? nullptr : &*found;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <limits>
@@ -43,7 +44,7 @@ class Array {
   std::span<const T> _Items() const { return elements_->items; }
   void Remove(std::int64_t index) const {
     (*this)[index];
-    elements_->items.erase(elements_->items.begin() + index);
+    elements_->items.erase(elements_->items.begin() + static_cast<std::ptrdiff_t>(index));
   }
 
   explicit operator bool() const noexcept { return static_cast<bool>(elements_); }

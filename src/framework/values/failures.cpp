@@ -1,7 +1,9 @@
 #include "framework/values/failures.h"
 
 #include <dlfcn.h>
+#if __has_include(<execinfo.h>)
 #include <execinfo.h>
+#endif
 
 #include <span>
 #include <string>
@@ -20,8 +22,10 @@ constexpr const char* kOffTheMainThread = "A thread has attempted to manipulate 
 }  // namespace
 
 void RuntimeException::NoteStack() noexcept {
+#if __has_include(<execinfo.h>)
   depth_ =
       static_cast<std::size_t>(backtrace(addresses_.data(), static_cast<int>(addresses_.size())));
+#endif
 }
 
 Array<StackFrame> RuntimeException::CallStack() const {

@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <clocale>
+#include <cmath>
+#include <cstdlib>
+#include <string>
 #include <string_view>
 
 namespace framework {
@@ -40,11 +44,12 @@ double Val(const String& text) {
   std::string_view digits = text.View();
   digits.remove_prefix(std::min(digits.find_first_not_of(" \t"), digits.size()));
   const std::size_t sign = digits.starts_with('-') ? 1 : 0;
-  // from_chars also reads "nan" and "inf".
+  // strtod also reads "nan", "inf", a plus sign and hexadecimal numbers.
   if (digits.find_first_of(".0123456789", sign) != sign) return 0;
-  double value = 0;
-  std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  return value;
+  const std::string number(digits.substr(0, digits.find_first_not_of("+-.0123456789Ee")));
+  static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+  const double value = strtod_l(number.c_str(), nullptr, plain);
+  return std::isfinite(value) ? value : 0;
 }
 
 String Bin(std::int64_t value) { return Digits(static_cast<std::uint64_t>(value), 2); }
