@@ -15,14 +15,22 @@ target_compile_options(pitchsieve_options INTERFACE
   $<$<CXX_COMPILER_ID:Clang>:-Wcomma -Wloop-analysis -Wunreachable-code-aggressive>
   $<$<BOOL:${PITCHSIEVE_STRICT}>:-Werror>)
 
-# A fault in memory ends the program before it can be put to use. tools/check_hardened.sh looks for
-# all of this in the built files.
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-include(CheckPIESupported)
-check_pie_supported()
-target_compile_options(pitchsieve_options INTERFACE -fstack-protector-strong
-  $<$<CONFIG:Release,RelWithDebInfo>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
-target_link_options(pitchsieve_options INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)
+if(EMSCRIPTEN)
+  # As small as can be: the program is loaded with its page. Each library, the compiler's own too, is
+  # linked as a whole program.
+  set(CMAKE_CXX_FLAGS_RELEASE "-Oz -DNDEBUG")
+  target_compile_options(pitchsieve_options INTERFACE -fexceptions -flto)
+  target_link_options(pitchsieve_options INTERFACE -fexceptions -flto)
+else()
+  # A fault in memory ends the program before it can be put to use. tools/check_hardened.sh looks for
+  # all of this in the built files.
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  include(CheckPIESupported)
+  check_pie_supported()
+  target_compile_options(pitchsieve_options INTERFACE -fstack-protector-strong
+    $<$<CONFIG:Release,RelWithDebInfo>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
+  target_link_options(pitchsieve_options INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)
+endif()
 
 if(PITCHSIEVE_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

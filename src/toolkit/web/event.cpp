@@ -1,0 +1,17 @@
+#include "toolkit/web/event.h"
+
+#include "toolkit/web/dom.h"
+
+namespace toolkit::web::event {
+
+Key PressedKey() {
+  return static_cast<Key>(page_Key("ArrowUp ArrowDown PageUp PageDown Home End Escape"));
+}
+
+std::int64_t Row() { return page_Row(); }
+
+bool Command() { return page_Command(); }
+
+void Take() { page_Take(); }
+
+}  // namespace toolkit::web::event

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+// The event of the page that is being handled.
+namespace toolkit::web::event {
+
+/// The keys that a list knows; kOther for any other, and for one with Ctrl, Alt or Meta.
+enum class Key { kOther = -1, kUp, kDown, kPageUp, kPageDown, kHome, kEnd, kEscape };
+
+Key PressedKey();
+/// The row of a list that the event is on, from 0; -1 beside the rows.
+std::int64_t Row();
+/// Whether Ctrl, or the platform's own command key, is held.
+bool Command();
+/// Keeps the browser from doing what it would have done with the event.
+void Take();
+
+}  // namespace toolkit::web::event

@@ -1,0 +1,112 @@
+#include "toolkit/web/listbox_peer.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "framework/values/text.h"
+#include "toolkit/web/event.h"
+
+namespace toolkit::web {
+
+using namespace framework;
+using event::Key;
+
+namespace {
+
+/// The row that a key leads to from the chosen one; the chosen one itself for a key that leads to
+/// none. Without a choice, an arrow or a page key chooses the first row.
+std::int64_t RowFor(Key key, std::int64_t chosen, std::int64_t last, std::int64_t page) {
+  const auto to = [&](std::int64_t row) {
+    return chosen < 0 ? 0 : std::clamp<std::int64_t>(row, 0, last);
+  };
+  switch (key) {
+    case Key::kUp:
+      return to(chosen - 1);
+    case Key::kDown:
+      return to(chosen + 1);
+    case Key::kPageUp:
+      return to(chosen - page);
+    case Key::kPageDown:
+      return to(chosen + page);
+    case Key::kHome:
+      return 0;
+    case Key::kEnd:
+      return last;
+    case Key::kEscape:
+      return -1;
+    case Key::kOther:
+      break;
+  }
+  return chosen;
+}
+
+}  // namespace
+
+ListboxPeer::ListboxPeer(const Ref<Listbox>& list, const Element& content)
+    : ControlPeer(list, content, "div"),
+      list_(list),
+      rows_(Outer(), Id(), [this](std::int64_t row, int column) {
+        // No column shows more; laying out a megabyte would take seconds.
+        constexpr std::size_t kMost = 1000;
+        return list_->Cell(row, column).View().substr(0, kMost);
+      }) {
+  Outer().Attribute("class", "list");
+  Outer().Attribute("role", "grid");
+  Outer().Attribute("tabindex", "0");
+  Outer().On("mousedown", [this] { pressed_ = event::Row(); });
+  Outer().On("click", [this] { Clicked(); });
+  Outer().On("keydown", [this] { KeyPressed(); });
+  Outer().On("scroll", [this] { rows_.Scrolled(); });
+}
+
+void ListboxPeer::Show(Change what) {
+  if (what == Change::Rows) rows_changed_ = true;
+  if (what == Change::ListIndex && !rows_changed_) rows_.Choose(list_->ListIndex());
+  if (what == Change::Look) ShareColumns();
+}
+
+bool ListboxPeer::Refresh() {
+  if (!std::exchange(rows_changed_, false)) return false;
+  rows_.Reset(list_->LastIndex() + 1, list_->ListIndex());
+  return true;
+}
+
+void ListboxPeer::ShareColumns() {
+  // Shares of the width inside the frame. The last column that shows ends at the scroll bar.
+  const auto widths = Split(list_->ColumnWidths(), ",");
+  const auto columns = std::min(list_->ColumnCount(), widths.LastIndex() + 1);
+  std::string tracks;
+  int shown = 0;
+  for (std::int64_t i = 0; i < columns; ++i) {
+    const double share = Val(widths[i]) / 100;
+    if (share <= 0) break;
+    const double width = share * static_cast<double>(list_->Width() - 2);
+    tracks += shown > 0 && Val(widths[i]) > 0 ? " " : "";
+    tracks += std::to_string(width) + "px";
+    ++shown;
+  }
+  if (shown > 0) tracks.replace(tracks.rfind(' ') + 1, tracks.npos, "minmax(0,1fr)");
+  Outer().Style("--columns", tracks);
+  Outer().Attribute("aria-colcount", shown);
+  rows_.SetColumns(shown);
+  rows_changed_ = true;
+}
+
+void ListboxPeer::Clicked() {
+  // A screen reader clicks without a press; a press that ends elsewhere than it began is no click.
+  const std::int64_t row = event::Row();
+  const std::int64_t pressed = std::exchange(pressed_, kNowhere);
+  if (pressed != kNowhere && pressed != row) return;
+  const bool back = row == list_->ListIndex() && event::Command();
+  list_->Select(back ? -1 : row);
+}
+
+void ListboxPeer::KeyPressed() {
+  const Key key = event::PressedKey();
+  if (key == Key::kOther) return;
+  event::Take();  // or the browser would scroll as well
+  if (list_->LastIndex() < 0) return;
+  list_->Select(RowFor(key, list_->ListIndex(), list_->LastIndex(), rows_.PageRows()));
+}
+
+}  // namespace toolkit::web

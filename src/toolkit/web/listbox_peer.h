@@ -1,0 +1,32 @@
+#pragma once
+
+#include "framework/controls/listbox.h"
+#include "toolkit/web/control_peer.h"
+#include "toolkit/web/row_view.h"
+
+namespace toolkit::web {
+
+/// A grid of rows for a Listbox. However many rows an event adds, it is refreshed once, behind it.
+class ListboxPeer final : public ControlPeer {
+ public:
+  ListboxPeer(const framework::Ref<framework::Listbox>& list, const Element& content);
+
+  bool Refresh() override;
+
+ protected:
+  void Show(framework::Change what) override;
+
+ private:
+  void ShareColumns();
+  void Clicked();
+  void KeyPressed();
+
+  framework::Ref<framework::Listbox> list_;
+  RowView rows_;
+  bool rows_changed_ = false;
+  std::int64_t pressed_ = kNowhere;  ///< the row, or -1, where a press began
+
+  static constexpr std::int64_t kNowhere = -2;
+};
+
+}  // namespace toolkit::web
