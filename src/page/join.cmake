@@ -3,7 +3,7 @@
 add_executable(orrel-pitchsieve page/main.cpp)
 target_link_libraries(orrel-pitchsieve PRIVATE page shell pitchsieve_options)
 target_link_options(orrel-pitchsieve PRIVATE
-  -sSINGLE_FILE=1 -sMODULARIZE=1 -sEXPORT_NAME=OrrelPitchsieve -sENVIRONMENT=web -sTEXTDECODER=2
+  -sMODULARIZE=1 -sEXPORT_NAME=OrrelPitchsieve -sENVIRONMENT=web -sTEXTDECODER=2
   -sALLOW_MEMORY_GROWTH=1 -sINITIAL_MEMORY=4MB -sTOTAL_STACK=512KB -sMALLOC=emmalloc
   "SHELL:--js-library ${CMAKE_CURRENT_LIST_DIR}/../toolkit/web/dom.js"
   "SHELL:--js-library ${CMAKE_CURRENT_LIST_DIR}/library.js")
@@ -17,7 +17,8 @@ set(scales "${PROJECT_SOURCE_DIR}/resources/Orrel Scales.csv")
 set(page ${PROJECT_BINARY_DIR}/orrel-pitchsieve.html)
 add_custom_command(OUTPUT ${page}
   COMMAND Python3::Interpreter ${CMAKE_CURRENT_LIST_DIR}/join.py
-    ${parts} $<TARGET_FILE:orrel-pitchsieve> ${scales} ${page}
+    ${parts} $<TARGET_FILE:orrel-pitchsieve> $<TARGET_FILE_DIR:orrel-pitchsieve>/orrel-pitchsieve.wasm
+    ${scales} ${page}
   DEPENDS orrel-pitchsieve page/join.py ${parts} ${scales}
   VERBATIM)
 add_custom_target(page-file ALL DEPENDS ${page})

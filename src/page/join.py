@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Joins the page's parts to one file: join.py TEMPLATE STYLE STARTER CODE LIBRARY PAGE"""
+"""Joins the page's parts to one file: join.py TEMPLATE STYLE STARTER GLUE CODE LIBRARY PAGE"""
 import base64
 import hashlib
 import re
@@ -21,9 +21,11 @@ def library(text):
     return re.sub(r'<(\\*(?:!--|/?script))', r'<\\\1', text, flags=re.I)
 
 
-template, style, starter, code, scales, page = sys.argv[1:]
+template, style, starter, glue, code, scales, page = sys.argv[1:]
 style = read(style)
-script = read(code) + read(starter)
+with open(code, 'rb') as file:
+    code = base64.b64encode(file.read()).decode()
+script = read(glue) + read(starter).replace('@CODE@', code)
 assert not re.search('<(!--|/?script)', script, re.I), 'the script cannot stand in a page'
 policy = "default-src 'none'; style-src %s; script-src %s 'wasm-unsafe-eval'" % (
     digest(style), digest(script))

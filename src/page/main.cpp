@@ -13,3 +13,7 @@ int main() {
   toolkit::web::WebToolkit::ShowEnd();
   return status;
 }
+
+/// Names a class of the standard library's own as its compiler does. The real one is a fifth of all
+/// code, and what it is for, a failure of a class that is not the framework's, does not come about.
+extern "C" char* __cxa_demangle(const char*, char*, std::size_t*, int*) { return nullptr; }

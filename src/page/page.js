@@ -3,6 +3,7 @@
 (function () {
   'use strict';
   const at = id => document.getElementById(id);
+  const code = Uint8Array.from(atob('@CODE@'), c => c.charCodeAt(0));
   let run = new AbortController();
 
   function start(library, name) {
@@ -14,7 +15,7 @@
     at('report-title').textContent = name;
     at('report-summary').textContent = '';
     at('report-faults').replaceChildren();
-    OrrelPitchsieve({ library, own: !!name, signal: run.signal }).catch(end);
+    OrrelPitchsieve({ wasmBinary: code, library, own: !!name, signal: run.signal }).catch(end);
   }
 
   function end() {

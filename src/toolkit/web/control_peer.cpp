@@ -54,10 +54,10 @@ void ControlPeer::Remark(const std::string& remark) {
 }
 
 void ControlPeer::Place() {
-  element_.Pixels("left", static_cast<double>(control_->Left()));
-  element_.Pixels("top", static_cast<double>(control_->Top()));
-  element_.Pixels("width", static_cast<double>(control_->Width()));
-  element_.Pixels("height", static_cast<double>(control_->Height()));
+  element_.Pixels("left", control_->Left());
+  element_.Pixels("top", control_->Top());
+  element_.Pixels("width", control_->Width());
+  element_.Pixels("height", control_->Height());
 }
 
 void ControlPeer::Look() {
@@ -65,7 +65,7 @@ void ControlPeer::Look() {
   Describe();
   Active().Set("disabled", control_->Enabled() ? 0 : 1);
   if (control_->TextSize() > 0)
-    element_.Pixels("font-size", static_cast<double>(control_->TextSize()));
+    element_.Pixels("font-size", static_cast<std::int64_t>(control_->TextSize()));
   element_.Style("font-weight", control_->Bold() ? "bold" : "");
   element_.Style("font-style", control_->Italic() ? "italic" : "");
   element_.Style("text-decoration", control_->Underline() ? "underline" : "");

@@ -1,7 +1,5 @@
 #include "toolkit/web/element.h"
 
-#include <array>
-#include <cstdio>
 #include <string>
 #include <utility>
 
@@ -45,10 +43,8 @@ void Element::Style(const char* name, std::string_view value) {
   page_Style(number_, name, value.data(), value.size());
 }
 
-void Element::Pixels(const char* style, double value) {
-  std::array<char, 32> text{};
-  const int size = std::snprintf(text.data(), text.size(), "%.2fpx", value);
-  Style(style, {text.data(), static_cast<std::size_t>(size)});
+void Element::Pixels(const char* style, std::int64_t value) {
+  Style(style, std::to_string(value) + "px");
 }
 
 void Element::Set(const char* property, double value) { page_Set(number_, property, value); }

@@ -26,7 +26,7 @@ class Element {
   /// Without the attribute when the value is empty.
   void AttributeOrNone(const char* name, std::string_view value);
   void Style(const char* name, std::string_view value);
-  void Pixels(const char* style, double value);
+  void Pixels(const char* style, std::int64_t value);
   /// A property of the element's object that is a number, or true or false.
   void Set(const char* property, double value);
   double Get(const char* property) const;

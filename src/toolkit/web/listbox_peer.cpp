@@ -80,8 +80,8 @@ void ListboxPeer::ShareColumns() {
   for (std::int64_t i = 0; i < columns; ++i) {
     const double share = Val(widths[i]) / 100;
     if (share <= 0) break;
-    const double width = share * static_cast<double>(list_->Width() - 2);
-    tracks += shown > 0 && Val(widths[i]) > 0 ? " " : "";
+    const auto width = static_cast<std::int64_t>(share * static_cast<double>(list_->Width() - 2));
+    if (shown > 0) tracks += " ";
     tracks += std::to_string(width) + "px";
     ++shown;
   }

@@ -26,7 +26,7 @@ void RowView::Reset(std::int64_t rows, std::int64_t chosen) {
   rows_ = rows;
   chosen_ = chosen;
   list_.Attribute("aria-rowcount", rows);
-  space_.Pixels("height", ScrolledHeight());
+  space_.Pixels("height", static_cast<std::int64_t>(ScrolledHeight()));
   ScrollTo(0);
   // What is made is filled anew, and what is too much goes.
   std::map<std::int64_t, Row> old = std::exchange(made_, {});
@@ -106,7 +106,8 @@ void RowView::MakeSeen() {
     made.element.PutBefore(after == made_.end() ? nullptr : &after->second.element);
     made_.emplace_hint(after, row, std::move(made));
   }
-  body_.Pixels("top", scrolled_ - top_ + static_cast<double>(begin) * row_height_);
+  body_.Pixels("top", static_cast<std::int64_t>(scrolled_ - top_) +
+                          begin * static_cast<std::int64_t>(row_height_));
   if (made_.contains(chosen_)) {
     list_.Attribute("aria-activedescendant", list_id_ + "-row-" + std::to_string(chosen_));
   } else {
