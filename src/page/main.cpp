@@ -1,6 +1,5 @@
-#include <memory>
+#include <cstddef>
 
-#include "framework/application/special_folder.h"
 #include "page/own_library.h"
 #include "shell/start_up.h"
 #include "toolkit/web/web_toolkit.h"
@@ -9,6 +8,10 @@ int main() {
   // The browser ends the program, in mid-run: this goes down with it.
   static toolkit::web::WebToolkit toolkit;
   page::TakeLibrary();
+  if (page::IsCheck()) {
+    page::TellOfLibrary();
+    return 0;
+  }
   const int status = shell::main();
   toolkit::web::WebToolkit::ShowEnd();
   return status;

@@ -19,7 +19,7 @@
 extern "C" {
 int page_LibrarySize();
 void page_Library(char* to);
-bool page_LibraryIsOwn();
+bool page_IsCheck();
 }
 
 namespace page {
@@ -36,37 +36,11 @@ class PageBundle final : public BundlePlatform {
   String ResourcePath() override { return kFolder; }
 };
 
-void WriteLibrary(const std::string& path) {
-  std::vector<char> bytes(static_cast<std::size_t>(page_LibrarySize()));
-  page_Library(bytes.data());
-  const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-  write(file, bytes.data(), bytes.size());
-  close(file);
-}
-
 std::string Told(const check::Fault& fault) {
   std::string text = "Line " + std::to_string(fault.line) + ", column " +
                      std::to_string(fault.column) + ": found " + fault.found;
   if (!fault.expected.empty()) text += ", expected " + fault.expected;
   return text;
-}
-
-/// Elements that stay when this function is left are the page's: nothing takes them away.
-void TellOf(const std::string& path) {
-  constexpr std::int64_t kMost = 100;
-  const Element list = Element::Of("report-faults");
-  const auto add = [&](const std::string& text) { (new Element(list, "li"))->Text(text); };
-  std::int64_t faults = 0;
-  const auto file = TextInputStream::Open(GetFolderItem(path));
-  const check::Summary summary = check::CheckLibrary(*file, [&](const check::Fault& fault) {
-    if (++faults <= kMost) add(Told(fault));
-  });
-  if (faults > kMost) add("And " + check::Counted(faults - kMost, "more") + ".");
-  Element::Of("report-summary")
-      .Text(check::Counted(summary.scales, "scale") + " in " +
-            check::Counted(summary.banks, "bank") + ": " + check::Counted(summary.errors, "error") +
-            ", " + check::Counted(summary.warnings, "warning") + ", " +
-            check::Counted(summary.remarks, "remark") + ".");
 }
 
 }  // namespace
@@ -75,9 +49,35 @@ void TakeLibrary() {
   SpecialFolder::_SetBundlePlatform(std::make_unique<PageBundle>());
   mkdir(kFolder, 0700);
   if (page_LibrarySize() < 0) return;
-  const std::string path = std::string(kFolder) + "/" + library::kFileName;
-  WriteLibrary(path);
-  if (page_LibraryIsOwn()) TellOf(path);
+  std::vector<char> bytes(static_cast<std::size_t>(page_LibrarySize()));
+  page_Library(bytes.data());
+  const int file = open((std::string(kFolder) + "/" + library::kFileName).c_str(),
+                        O_WRONLY | O_CREAT | O_TRUNC, 0600);
+  write(file, bytes.data(), bytes.size());
+  close(file);
+}
+
+bool IsCheck() { return page_IsCheck(); }
+
+void TellOfLibrary() {
+  constexpr std::int64_t kMost = 100;
+  const Element list = Element::Of("report-faults");
+  const auto add = [&](const std::string& text) {
+    Element item(list, "li");
+    item.Text(text);
+    item.Keep();
+  };
+  std::int64_t faults = 0;
+  const auto file = TextInputStream::Open(SpecialFolder::Resources()->Child(library::kFileName));
+  const check::Summary summary = check::CheckLibrary(*file, [&](const check::Fault& fault) {
+    if (++faults <= kMost) add(Told(fault));
+  });
+  if (faults > kMost) add("And " + std::to_string(faults - kMost) + " more.");
+  Element::Of("report-summary")
+      .Text(check::Counted(summary.scales, "scale") + " in " +
+            check::Counted(summary.banks, "bank") + ": " + check::Counted(summary.errors, "error") +
+            ", " + check::Counted(summary.warnings, "warning") + ", " +
+            check::Counted(summary.remarks, "remark") + ".");
 }
 
 }  // namespace page

@@ -2,8 +2,12 @@
 
 namespace page {
 
-/// Puts the library that the page gives where the program looks for it. One of the user's own is
-/// checked first, and the page tells what is found.
+/// Puts the library that the page gives, if it gives one, where the program looks for it.
 void TakeLibrary();
+
+/// Whether this run is for checking the library alone.
+bool IsCheck();
+/// Shows on the page what the checker finds in the library.
+void TellOfLibrary();
 
 }  // namespace page

@@ -6,16 +6,26 @@
   const code = Uint8Array.from(atob('@CODE@'), c => c.charCodeAt(0));
   let run = new AbortController();
 
-  function start(library, name) {
+  // A library without a name is the page's own. Another is checked first, by a run for that alone.
+  async function start(library, name) {
     run.abort();  // an earlier run hears of nothing any more
     run = new AbortController();
+    const signal = run.signal;
     at('desk').replaceChildren();
     at('ended').hidden = true;
+    report(name, '');
+    if (name) {
+      await OrrelPitchsieve({ wasmBinary: code, library, check: true });
+      await new Promise(done => setTimeout(done, 50));  // for the eye to meet what was found
+    }
+    if (!signal.aborted) await OrrelPitchsieve({ wasmBinary: code, library, signal });
+  }
+
+  function report(name, summary) {
     at('report').hidden = !name;
     at('report-title').textContent = name;
-    at('report-summary').textContent = '';
+    at('report-summary').textContent = summary;
     at('report-faults').replaceChildren();
-    OrrelPitchsieve({ wasmBinary: code, library, own: !!name, signal: run.signal }).catch(end);
   }
 
   function end() {
@@ -25,14 +35,13 @@
 
   async function open(file) {
     if (!file) return;
+    let bytes;
     try {
-      start(new Uint8Array(await file.arrayBuffer()), file.name);
+      bytes = await file.arrayBuffer();
     } catch (failure) {
-      at('report').hidden = false;
-      at('report-title').textContent = file.name;
-      at('report-summary').textContent = 'This file cannot be read.';
-      at('report-faults').replaceChildren();
+      return report(file.name, 'This file cannot be read.');
     }
+    await start(new Uint8Array(bytes), file.name);
   }
 
   function fit() {
@@ -45,6 +54,7 @@
   at('sorry').hidden = true;
   addEventListener('resize', fit);
   addEventListener('error', end);
+  addEventListener('unhandledrejection', end);
   at('own').addEventListener('change', e => { open(e.target.files[0]); });
   addEventListener('dragover', e => e.preventDefault());
   addEventListener('drop', e => { e.preventDefault(); open(e.dataTransfer.files[0]); });

@@ -27,6 +27,7 @@ int page_Key(const char* keys);
 int page_Row();
 bool page_Command();
 void page_Take();
+void page_TellCut();
 void page_Alert(const char* text, std::size_t size);
 void page_Log(const char* text, std::size_t size);
 

@@ -84,6 +84,14 @@ mergeInto(LibraryManager.library, {
   page_Command: function () { return page.event.ctrlKey || page.event.metaKey; },
   page_Take__deps: ['$page'],
   page_Take: function () { page.event.preventDefault(); },
+  // Lets a text of the list that is cut at its cell's end be read whole by pointing at it.
+  page_TellCut__deps: ['$page'],
+  page_TellCut: function () {
+    const cell = page.event.target;
+    if (cell.getAttribute('role') !== 'gridcell') return;
+    if (cell.scrollWidth > cell.clientWidth) cell.title = cell.textContent;
+    else cell.removeAttribute('title');
+  },
 
   page_Alert__deps: ['$text'],
   page_Alert: function (bytes, size) { alert(text(bytes, size)); },

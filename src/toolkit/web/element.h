@@ -19,6 +19,8 @@ class Element {
   Element(Element&& other) noexcept;
   Element& operator=(Element&&) = delete;
   ~Element();
+  /// Leaves it on the page when this object goes.
+  void Keep() { made_ = false; }
 
   void Text(std::string_view text);
   void Attribute(const char* name, std::string_view value);

@@ -14,4 +14,6 @@ bool Command() { return page_Command(); }
 
 void Take() { page_Take(); }
 
+void TellCut() { page_TellCut(); }
+
 }  // namespace toolkit::web::event

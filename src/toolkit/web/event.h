@@ -16,5 +16,7 @@ std::int64_t Row();
 bool Command();
 /// Keeps the browser from doing what it would have done with the event.
 void Take();
+/// Shows the whole text of the cell that is pointed at, where the cell cuts it.
+void TellCut();
 
 }  // namespace toolkit::web::event

@@ -56,6 +56,7 @@ ListboxPeer::ListboxPeer(const Ref<Listbox>& list, const Element& content)
   Outer().On("mousedown", [this] { pressed_ = event::Row(); });
   Outer().On("click", [this] { Clicked(); });
   Outer().On("keydown", [this] { KeyPressed(); });
+  Outer().On("mouseover", &event::TellCut);
   Outer().On("scroll", [this] { rows_.Scrolled(); });
 }
 
