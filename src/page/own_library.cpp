@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "check/check_library.h"
-#include "check/check_line.h"
 #include "framework/application/special_folder.h"
 #include "framework/files/folder_item.h"
+#include "framework/values/failures.h"
 #include "library/load.h"
 #include "toolkit/web/element.h"
 
@@ -36,11 +36,13 @@ class PageBundle final : public BundlePlatform {
   String ResourcePath() override { return kFolder; }
 };
 
+/// "Line 5, column 9: error: found 3 fields, expected 14".
 std::string Told(const check::Fault& fault) {
-  std::string text = "Line " + std::to_string(fault.line) + ", column " +
-                     std::to_string(fault.column) + ": found " + fault.found;
-  if (!fault.expected.empty()) text += ", expected " + fault.expected;
-  return text;
+  std::string text;
+  if (fault.line > 0) {
+    text = "Line " + std::to_string(fault.line) + ", column " + std::to_string(fault.column) + ": ";
+  }
+  return text.append(check::Word(fault.severity)).append(": ").append(check::Text(fault));
 }
 
 }  // namespace
@@ -60,24 +62,18 @@ void TakeLibrary() {
 bool IsCheck() { return page_IsCheck(); }
 
 void TellOfLibrary() {
-  constexpr std::int64_t kMost = 100;
   const Element list = Element::Of("report-faults");
-  const auto add = [&](const std::string& text) {
-    Element item(list, "li");
-    item.Text(text);
-    item.Keep();
-  };
-  std::int64_t faults = 0;
-  const auto file = TextInputStream::Open(SpecialFolder::Resources()->Child(library::kFileName));
-  const check::Summary summary = check::CheckLibrary(*file, [&](const check::Fault& fault) {
-    if (++faults <= kMost) add(Told(fault));
-  });
-  if (faults > kMost) add("And " + std::to_string(faults - kMost) + " more.");
-  Element::Of("report-summary")
-      .Text(check::Counted(summary.scales, "scale") + " in " +
-            check::Counted(summary.banks, "bank") + ": " + check::Counted(summary.errors, "error") +
-            ", " + check::Counted(summary.warnings, "warning") + ", " +
-            check::Counted(summary.remarks, "remark") + ".");
+  Element summary = Element::Of("report-summary");
+  try {
+    const auto file = TextInputStream::Open(SpecialFolder::Resources()->Child(library::kFileName));
+    summary.Text(check::Text(check::CheckLibrary(*file, [&](const check::Fault& fault) {
+      Element item(list, "li");
+      item.Text(Told(fault));
+      item.Keep();
+    })));
+  } catch (const IOException&) {
+    summary.Text("This file cannot be read to its end.");
+  }
 }
 
 }  // namespace page
