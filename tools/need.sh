@@ -18,4 +18,5 @@ need() {
 }
 
 to_build=(g++ cmake make qt6-base-dev)
+to_build_the_page=(emscripten node-acorn cmake make python3)
 on_a_virtual_screen=(xvfb xauth xdotool x11-utils imagemagick fonts-dejavu-core dbus-daemon)
