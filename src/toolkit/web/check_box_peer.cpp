@@ -1,10 +1,14 @@
 #include "toolkit/web/check_box_peer.h"
 
+#include "framework/controls/reading.h"
+#include "toolkit/web/event.h"
+
 namespace toolkit::web {
 
-using framework::Change;
+using namespace framework;
+using event::Key;
 
-CheckBoxPeer::CheckBoxPeer(const framework::Ref<framework::CheckBox>& box, const Element& content)
+CheckBoxPeer::CheckBoxPeer(const Ref<CheckBox>& box, const Element& content)
     : ControlPeer(box, content, "label"),
       box_(box),
       input_(Outer(), "input"),
@@ -14,6 +18,13 @@ CheckBoxPeer::CheckBoxPeer(const framework::Ref<framework::CheckBox>& box, const
   input_.Attribute("autocomplete", "off");  // or a browser would tick it as at an earlier visit
   input_.On("change", [this] {
     if ((input_.Get("checked") != 0) != box_->Value()) box_->Toggle();
+  });
+  input_.On("keydown", [this] {
+    const Key key = event::PressedKey();
+    if (key != Key::kUp && key != Key::kDown) return;
+    event::Take();  // or the browser would scroll the page
+    const auto next = _NextInSet(*box_, key == Key::kUp ? -1 : 1);
+    if (next) Element::Of(IdOf(*next).c_str()).Focus();
   });
 }
 

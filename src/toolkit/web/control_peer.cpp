@@ -10,8 +10,6 @@ namespace toolkit::web {
 
 using namespace framework;
 
-namespace {
-
 std::string IdOf(const framework::Control& control) {
   std::string id(control.Name());
   if (control.Index() != framework::Control::kNoIndex) {
@@ -19,8 +17,6 @@ std::string IdOf(const framework::Control& control) {
   }
   return id;
 }
-
-}  // namespace
 
 ControlPeer::ControlPeer(const Ref<RectControl>& control, const Element& content, const char* tag)
     : control_(control), id_(IdOf(*control)), element_(content, tag) {

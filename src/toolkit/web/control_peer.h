@@ -8,8 +8,10 @@
 
 namespace toolkit::web {
 
-/// A control's counterpart on the page: an element at the control's frame, whose id is the
-/// control's name, in a control set with a hyphen and the Index.
+/// The id of the control's element: its name, in a control set with a hyphen and the Index.
+std::string IdOf(const framework::Control& control);
+
+/// A control's counterpart on the page: an element at the control's frame.
 class ControlPeer : public framework::Peer {
  public:
   ControlPeer(const framework::Ref<framework::RectControl>& control, const Element& content,

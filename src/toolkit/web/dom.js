@@ -55,7 +55,7 @@ mergeInto(LibraryManager.library, {
   page_Get__deps: ['$at'],
   page_Get: function (number, name) { return Number(at(number)[UTF8ToString(name)]); },
   page_Focus__deps: ['$at'],
-  page_Focus: function (number) { at(number).focus(); },
+  page_Focus: function (number) { (at(number).control || at(number)).focus(); },
 
   page_Listen__deps: ['$at', '$listen'],
   page_Listen: function (number, event, listener) {

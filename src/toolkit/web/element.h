@@ -33,6 +33,7 @@ class Element {
   void Set(const char* property, double value);
   double Get(const char* property) const;
   void Show(bool visible) { Set("hidden", visible ? 0 : 1); }
+  /// Gives it the focus; of a label element, the control that it labels.
   void Focus();
   /// Moves it before another in the same parent; nullptr for the last place.
   void PutBefore(const Element* other);
