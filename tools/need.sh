@@ -20,3 +20,12 @@ need() {
 to_build=(g++ cmake make qt6-base-dev)
 to_build_the_page=(emscripten node-acorn cmake make python3)
 on_a_virtual_screen=(xvfb xauth xdotool x11-utils imagemagick fonts-dejavu-core dbus-daemon)
+browsers=(chromium firefox-esr webkit2gtk-driver xvfb xauth dbus-daemon fonts-dejavu-core)
+
+# need_npm_packages FOLDER: has those installed that the folder's lockfile names, in just these versions.
+need_npm_packages() {
+  # Where Node does not come from Debian, it brings npm with it.
+  command -v node >/dev/null || need nodejs
+  command -v npm >/dev/null || need npm
+  [ "$1/node_modules/.package-lock.json" -nt "$1/package-lock.json" ] || (cd "$1" && npm ci)
+}

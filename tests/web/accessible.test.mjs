@@ -1,0 +1,69 @@
+// What a screen reader is told, in the browser's own tree of it, and what axe-core finds.
+import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
+import { eventually, testIn } from './hand.mjs';
+import { addressOf, fourScales, html, pageOn } from './page.mjs';
+
+const axe = readFileSync(new URL('node_modules/axe-core/axe.min.js', import.meta.url), 'utf8');
+const violations = `${axe}; axe.run().then(({ violations }) => violations.map(
+  ({ id, nodes }) => id + ': ' + nodes.map(({ html }) => html.slice(0, 100)).join(' ')))`;
+const states = {
+  'as it opens': async () => {},
+  'with rows and a chosen one': async (hand) => {
+    for (const note of [0, 4, 7]) await hand.tick(note);
+    await hand.tickOther();
+    await hand.chooseExactRow(0);
+    await hand.chooseRow(1);
+    await eventually(async () => assert.notDeepEqual((await hand.look()).stars, []));
+  },
+  'on a phone': (hand) => hand.page.puppet.setViewport({ width: 390, height: 844, hasTouch: true }),
+  'without WebAssembly': async (hand) => {
+    await hand.page.puppet.evaluateOnNewDocument(() => { delete globalThis.WebAssembly; });
+    await hand.page.puppet.reload();
+  },
+};
+for (const value of ['light', 'dark']) {
+  testIn('Chromium', `axe finds nothing in ${value} colours`, async (hand) => {
+    const { puppet } = hand.page;
+    await puppet.emulateMediaFeatures([{ name: 'prefers-color-scheme', value }]);
+    await hand.open(addressOf(html));
+    for (const [state, arrive] of Object.entries(states)) {
+      await arrive(hand);
+      assert.deepEqual(await puppet.evaluate(violations), [], state);
+    }
+  });
+}
+
+testIn('Chromium', 'names, rows with their number, and stars with their boxes are told', async (hand) => {
+  const spoken = async (role) => {
+    const found = [];
+    const walk = (node) => {
+      if (node.role === role) found.push(node);
+      node.children?.forEach(walk);
+    };
+    walk(await hand.page.puppet.accessibility.snapshot({ interestingOnly: false }));
+    return found;
+  };
+  const namesOf = async (role) => (await spoken(role)).map(({ name }) => name);
+  await hand.open(pageOn(fourScales));
+  await hand.tick(4);
+  await hand.press('lbContaining', 'ArrowDown');
+  await eventually(async () => {
+    const boxes = await spoken('checkbox');
+    assert.deepEqual(boxes.map(({ name }) => name), ['Include Other Roots', 'Roots in List Only',
+      ...(await hand.look()).captions]);
+    assert.deepEqual(boxes.flatMap(({ checked }, i) => (checked ? [i - 2] : [])), [4]);
+    const notes = boxes.slice(2).map(({ description }) => description);
+    const starred = notes.flatMap((text, i) => (text.startsWith('In the chosen scale. ') ? [i] : []));
+    assert.deepEqual(starred, [0, 2, 4, 5, 7, 9, 11]);
+    for (const text of notes) assert.match(text, /Select which pitch classes must appear/);
+    assert.deepEqual(await namesOf('combobox'), ['Root Note']);
+    assert.deepEqual(await namesOf('grid'), ['Exact Match', 'Containing All Notes']);
+    assert.deepEqual(await namesOf('row'), ['Bank Major C', 'Bank Whole Tone C', 'Bank Triad C']);
+  });
+  // The list points at the row that a key has chosen.
+  assert.deepEqual(await hand.page.run(() => {
+    const row = document.getElementById(document.activeElement.getAttribute('aria-activedescendant'));
+    return ['role', 'aria-rowindex', 'aria-selected'].map((name) => row.getAttribute(name));
+  }), ['row', '1', 'true']);
+});

@@ -1,0 +1,129 @@
+// Libraries in the page and such as the user brings, good and bad: what is told of them, and that the
+// program goes on.
+import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
+import { eventually, testIn, testInEach } from './hand.mjs';
+import { addressOf, file, fourScales, html, latin, library, line, pageOn } from './page.mjs';
+
+const major = line('Major', '101011010101');
+const triad = line('Triad', '100010010000');
+const noText = latin(library(line('S\xC3', '110000000000', '\xFF&')));
+const shownAs = '\uFFFD&|S\uFFFD|C';
+const outOfBounds = /OutOfBoundsException/;
+
+const expectTold = (hand, patterns) => eventually(async () => {
+  const told = await hand.page.hear();
+  assert.equal(told.length, patterns.length, `told: ${told}`);
+  patterns.forEach((pattern, i) => assert.match(told[i], pattern));
+});
+const expectRows = (hand, ...rows) => eventually(async () => {
+  assert.deepEqual((await hand.look()).lbContaining.rows.map(({ text }) => text), rows);
+});
+
+// The library in the page, the messages, the rows behind a tick, and whether notes have their names.
+const inThePage = [
+  ['a short line', library(major, 'Bank,short', triad), [outOfBounds], ['Bank|Major|C'], false],
+  ['a blank line', library(major) + '\n\n', [outOfBounds], ['Bank|Major|C'], false],
+  ['no scale', library(), [], [], true],
+  ['no library at all', null, [], [], true],
+  ['bytes that are no text', noText, [], [shownAs], true],
+];
+testInEach('a fault in the library is told and the program goes on', async (hand, t) => {
+  for (const [what, text, told, rows, named] of inThePage) {
+    await t.test(what, async () => {
+      await hand.open(pageOn(text));
+      await expectTold(hand, told);
+      await hand.tick(0);
+      await expectRows(hand, ...rows);
+      await hand.chooseRoot(4);
+      await hand.tick(1);
+      await eventually(async () => {
+        const { captions, value } = await hand.look();
+        assert.deepEqual([captions[0], value], [named ? 'C# / Db' : 'C', '110000000000']);
+      });
+      await expectTold(hand, named ? told : [...told, outOfBounds]);
+    });
+  }
+});
+
+// A file that is dropped on the page, the messages, what the report says of it, the rows behind a tick.
+const markup = '</script><script>alert(1)</script>';
+const dropped = [
+  ['a good one', library(major, triad), [], /2 scales/, ['Bank|Major|C', 'Bank|Triad|C']],
+  ['markup in it', library(line(markup, '110000000000', '<b>&amp;"')), [], /1 scale/,
+    [`<b>&amp;"|${markup}|C`]],
+  ['bytes that are no text', noText, [], /line 3/i, [shownAs]],
+  ['a short line', library(major, 'Bank,short'), [outOfBounds], /line 4/i, ['Bank|Major|C']],
+  ['nothing in it', '', [], /0 scales/, []],
+];
+/// By the driver in Chromium; the others' have no way, so the page gets the events of a drop.
+async function drop(hand, path) {
+  const { protocol } = hand.page;
+  const data = { items: [], files: [path], dragOperationsMask: 1 };
+  for (const type of protocol ? ['dragEnter', 'dragOver', 'drop'] : []) {
+    await protocol.send('Input.dispatchDragEvent', { type, x: 300, y: 300, data });
+  }
+  if (protocol) return;
+  await hand.page.run((bytes) => {
+    const dataTransfer = new DataTransfer();
+    dataTransfer.items.add(new File([new Uint8Array(bytes)], 'mine.csv'));
+    for (const type of ['dragenter', 'dragover', 'drop']) {
+      const event = new DragEvent(type, { dataTransfer, bubbles: true, cancelable: true });
+      document.body.dispatchEvent(event);
+    }
+  }, [...readFileSync(path)]);
+}
+const report = () => document.getElementById('report').innerText;
+
+testInEach('a dropped library opens anew, and is not kept', async (hand, t) => {
+  await hand.open(pageOn(fourScales));
+  for (const [what, bytes, told, reported, rows] of dropped) {
+    await t.test(what, async () => {
+      await hand.tick(4);
+      hand.page.told.length = 0;
+      await drop(hand, file('mine.csv', bytes));
+      await eventually(async () => {
+        const { ticked, lbContaining, value } = await hand.look();
+        assert.deepEqual([ticked, lbContaining.count, value], [[], 0, ' ']);
+        assert.match(await hand.page.run(report), reported);
+      });
+      await expectTold(hand, told);
+      await hand.tick(0);
+      await expectRows(hand, ...rows);
+    });
+  }
+  await hand.open(addressOf(html));
+  await hand.tick(0);
+  await eventually(async () => assert.ok((await hand.look()).lbContaining.count > 600));
+});
+
+testIn('Chromium', 'a library is chosen by the keyboard', async (hand) => {
+  await hand.open(pageOn(fourScales));
+  const { puppet } = hand.page;
+  for (let tabs = 0; await puppet.evaluate(() => document.activeElement.type) !== 'file'; ++tabs) {
+    assert.ok(tabs < 25, 'no button for a file');
+    await hand.page.key('Tab');
+  }
+  const press = async () => {
+    const asked = puppet.waitForFileChooser({ timeout: 5000 });
+    await hand.page.key(' ');
+    return asked;
+  };
+  const chooser = await press().catch(press);  // a busy machine can take the first key for no user's
+  await chooser.accept([file('mine.csv', library(line('Mine', '110000000000')))]);
+  await eventually(async () => {
+    assert.match(await hand.page.run(report), /mine\.csv/);
+    await hand.look();
+  });
+  await hand.tick(0);
+  await expectRows(hand, 'Bank|Mine|C');
+});
+
+testIn('Chromium', 'a browser that cannot run the program gets a sentence', async (hand) => {
+  const { puppet } = hand.page;
+  const said = () => eventually(async () => (
+    assert.match(await puppet.$eval('body', (body) => body.innerText), /WebAssembly/)));
+  await puppet.evaluateOnNewDocument(() => { delete globalThis.WebAssembly; });
+  await hand.page.open(addressOf(html));
+  await said();
+});

@@ -1,0 +1,91 @@
+// Rows are chosen and let go by keys, mouse and touch, whatever their number.
+import assert from 'node:assert/strict';
+import { eventually, testIn, testInEach } from './hand.mjs';
+import { fourScales, library, line, pageOn } from './page.mjs';
+
+/// expected: the chosen row, or the first and the last that it may be.
+const expectRow = (hand, expected, after) => eventually(async () => {
+  const { lbContaining, stars } = await hand.look();
+  const row = lbContaining.rows.find(({ chosen }) => chosen)?.row ?? -1;
+  const [first, last] = [expected].flat();
+  assert.ok(row >= first && row <= (last ?? first), `row ${row} after ${after}`);
+  assert.equal(stars.length > 0, row >= 0, `stars after ${after}`);
+});
+
+// What the Tab key comes by, and what is pressed there. There are 48 rows then, a dozen in sight.
+const twelve = [...Array(12).keys()];
+const road = [
+  ['pmRoot', 'd'], ['cbOther', ' '], ['cbRinL'], ['cbScale-0', ' ', ' '],
+  ...twelve.slice(1).map((i) => [`cbScale-${i}`]), ['lbExact'], ['lbContaining'],
+];
+const focused = () => document.activeElement.closest('[id]')?.id;
+const keys = [
+  ['ArrowDown', 0], ['ArrowDown', 1], ['ArrowUp', 0], ['ArrowUp', 0], ['End', 47],
+  ['ArrowDown', 47], ['PageUp', [30, 40]], ['Home', 0], ['PageDown', [7, 17]], ['Escape', -1],
+];
+
+testInEach('the keyboard alone does all, and the mouse lets go of rows', async (hand) => {
+  await hand.open(pageOn(fourScales));
+  for (let tabs = 0; await hand.page.run(focused) !== 'pmRoot'; ++tabs) {
+    assert.ok(tabs < 4, 'the first control has the focus soon');
+    await hand.page.key('Tab');
+  }
+  for (const [id, ...pressed] of road) {
+    assert.equal(await hand.page.run(focused), id);
+    for (const key of pressed) await hand.page.key(key);
+    if (id !== 'lbContaining') await hand.page.key('Tab');
+  }
+  assert.equal((await hand.look()).captions[0], 'D');
+  for (const [key, expected] of keys) {
+    await hand.page.key(key);
+    await expectRow(hand, expected, key);
+  }
+  await hand.chooseRow(20);
+  await expectRow(hand, 20, 'a click');
+  await hand.chooseRow(20, 'lbContaining', { ctrl: true });
+  await expectRow(hand, -1, 'a click with the Ctrl key');
+  await hand.tickOther();
+  await hand.chooseRow(2);
+  await expectRow(hand, 2, 'a click');
+  const [left, bottom] = await hand.page.run(() => {
+    const list = document.getElementById('lbContaining').getBoundingClientRect();
+    return [list.left, list.bottom];
+  });
+  await hand.page.click(left + 100, bottom - 10);
+  await expectRow(hand, -1, 'a click beside the rows');
+});
+
+testIn('Chromium', 'a finger chooses a row and lets it go', async (hand) => {
+  await hand.page.puppet.setViewport({ width: 390, height: 844, hasTouch: true, isMobile: true });
+  hand.page.click = (x, y) => hand.page.puppet.touchscreen.tap(x, y);
+  await hand.open(pageOn(fourScales));
+  await hand.tick(0);
+  await hand.chooseRow(2);
+  await expectRow(hand, 2, 'a tap');
+  await hand.chooseRow(2);
+  await expectRow(hand, -1, 'a tap on the chosen row');
+});
+
+testIn('Chromium', 'of 600,000 rows only those exist that are seen', async (hand) => {
+  const scales = Array.from({ length: 50000 }, (_, i) =>
+    line(`S${i}`, (i % 4095 + 1).toString(2).padStart(12, '0')));
+  await hand.open(pageOn(library(...scales)));
+  await hand.tickOther();
+  await hand.press('lbContaining', 'End');
+  await expectRow(hand, 599999, 'End');
+  const list = async () => (await hand.look()).lbContaining;
+  assert.equal((await list()).count, 600000);
+  assert.equal((await list()).rows.at(-1).text, 'Bank|S49999|B');
+  // The scroll bar in its middle shows the middle.
+  await hand.page.run(() => {
+    const list = document.getElementById('lbContaining');
+    list.scrollTop = (list.scrollHeight - list.clientHeight) / 2;
+  });
+  await eventually(async () => {
+    const { rows } = await list();
+    const middle = rows[rows.length >> 1].row;
+    assert.ok(Math.abs(middle - 300000) < 100, `row ${middle} in the middle`);
+    assert.equal(rows[0].text.split('|')[1], `S${rows[0].row % 50000}`);
+  });
+  assert.ok(await hand.page.run(() => document.querySelectorAll('*').length) < 400);
+});
