@@ -31,8 +31,10 @@ export const latin = (text) => Buffer.from(text, 'latin1');
 /// The address of a page on the disk.
 export const addressOf = (page) => pathToFileURL(file('page.html', page)).href;
 
-const element = /(<(\w+)[^>]*\bid="library"[^>]*>)[^]*?<\/\2>/;
-/// That of the page with another library, as a text editor would leave it; without one for null.
+const element = /(<(\w+)[^>]*\bid="library"[^>]*>)([^]*?)<\/\2>/;
+export const libraryOf = (page) => element.exec(page)[3];
+/// The address of the page with another library, as a text editor would leave it; without one for
+/// null.
 export function pageOn(text) {
   const { index, 0: whole, 1: opening, 2: name } = element.exec(html);
   const parts = text === null ? [] : [opening, text, `</${name}>`];
