@@ -41,9 +41,9 @@ void WebToolkit::ShowMessage(const String& text) {
   page_Alert(text.View().data(), text.View().size());
 }
 
-void WebToolkit::ReportFailure(const String& text) {
-  page_Log(text.View().data(), text.View().size());
-  ShowMessage(text);
+void WebToolkit::ReportFailure(std::string_view text) {
+  page_Log(text.data(), text.size());
+  page_Alert(text.data(), text.size());
 }
 
 void WebToolkit::CallLater(std::int64_t delay_ms, std::function<void()> work) {

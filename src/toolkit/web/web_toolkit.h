@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <string_view>
 
 #include "framework/events/toolkit.h"
 
@@ -20,7 +21,7 @@ class WebToolkit final : public framework::Toolkit {
   void Quit() override { quit_ = true; }
   void ShowMessage(const framework::String& text) override;
   /// In a message, and on the browser's console.
-  void ReportFailure(const framework::String& text) override;
+  void ReportFailure(std::string_view text) override;
   void CallLater(std::int64_t delay_ms, std::function<void()> work) override;
 
   /// Runs what the browser has called for as one event: nothing is thrown through the browser, and
