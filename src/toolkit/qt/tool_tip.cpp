@@ -38,7 +38,7 @@ QString ToolTipWithin(const QScreen& screen, QString text) {
   constexpr int kLine = 40;
   const int most = screen.availableSize().height() - kFrame;
   for (;;) {
-    const QString tip = ToolTip(text);
+    QString tip = ToolTip(text);
     QTextDocument page;
     page.setDefaultFont(QToolTip::font());
     page.setDocumentMargin(0);
