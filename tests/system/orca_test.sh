@@ -53,7 +53,7 @@ until_spoken 'Root Note combo box.'
 says 'C.' "$root"
 press Down 'C# / Db. Exact Match 0, Containing All Notes 3'
 press Down 'D. Exact Match 0, Containing All Notes 3'
-press alt+Down 'List with 12 items.'
+press F4 'List with 12 items.'
 press Up 'C# / Db.'
 press Return 'Root Note combo box.' 'C# / Db.' "$root" 'C# / Db. Exact Match 0, Containing All Notes 3'
 press c 'C. Exact Match 0, Containing All Notes 3'
