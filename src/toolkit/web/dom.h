@@ -25,7 +25,7 @@ void page_Watch(int element, const char* query, PageCall* listener);
 void page_Later(int delay_ms, PageCall* work);
 int page_Key(const char* keys);
 int page_Row();
-bool page_Command();
+bool page_TakesBack();
 void page_Take();
 void page_TellCut();
 void page_Alert(const char* text, std::size_t size);

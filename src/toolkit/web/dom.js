@@ -68,7 +68,7 @@ mergeInto(LibraryManager.library, {
   page_Later: function (delay, work) { setTimeout(function () { _page_Due(work); }, delay); },
 
   // Of the event: its place in the list of keys, or -1 for another or one with a modifier; the row
-  // that it points at, or -1; whether the platform's command key is held.
+  // that it points at, or -1; whether a click takes the choice of its row back.
   page_Key__deps: ['$page', '$text'],
   page_Key: function (keys) {
     const e = page.event;
@@ -80,8 +80,10 @@ mergeInto(LibraryManager.library, {
     const row = page.event.target.closest('[aria-rowindex]');
     return row ? Number(row.getAttribute('aria-rowindex')) - 1 : -1;
   },
-  page_Command__deps: ['$page'],
-  page_Command: function () { return page.event.ctrlKey || page.event.metaKey; },
+  page_TakesBack__deps: ['$page'],
+  page_TakesBack: function () {
+    return page.event.ctrlKey || page.event.metaKey || page.event.pointerType === 'touch';
+  },
   page_Take__deps: ['$page'],
   page_Take: function () { page.event.preventDefault(); },
   // Lets a text of the list that is cut at its cell's end be read whole by pointing at it.

@@ -10,7 +10,7 @@ Key PressedKey() {
 
 std::int64_t Row() { return page_Row(); }
 
-bool Command() { return page_Command(); }
+bool TakesBack() { return page_TakesBack(); }
 
 void Take() { page_Take(); }
 

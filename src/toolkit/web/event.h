@@ -12,8 +12,9 @@ enum class Key { kOther = -1, kUp, kDown, kPageUp, kPageDown, kHome, kEnd, kEsca
 Key PressedKey();
 /// The row of a list that the event is on, from 0; -1 beside the rows.
 std::int64_t Row();
-/// Whether Ctrl, or the platform's own command key, is held.
-bool Command();
+/// Whether a click on a chosen row takes the choice back: with Ctrl or the platform's own command
+/// key, and always with a finger, for which there is no such key.
+bool TakesBack();
 /// Keeps the browser from doing what it would have done with the event.
 void Take();
 /// Shows the whole text of the cell that is pointed at, where the cell cuts it.

@@ -98,7 +98,7 @@ void ListboxPeer::Clicked() {
   const std::int64_t row = event::Row();
   const std::int64_t pressed = std::exchange(pressed_, kNowhere);
   if (pressed != kNowhere && pressed != row) return;
-  const bool back = row == list_->ListIndex() && event::Command();
+  const bool back = row == list_->ListIndex() && event::TakesBack();
   list_->Select(back ? -1 : row);
 }
 
