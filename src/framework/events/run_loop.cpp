@@ -1,6 +1,6 @@
 #include "framework/events/run_loop.h"
 
-#include <iostream>
+#include <cstdio>
 #include <new>
 #include <string_view>
 #include <utility>
@@ -38,7 +38,7 @@ void Report(std::string_view text) noexcept {
   try {
     Toolkit::Current().ReportFailure(text);
   } catch (...) {
-    std::cerr << text << std::endl;
+    std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size()), text.data());
   }
 }
 
