@@ -36,6 +36,9 @@ testInEach('the keyboard alone does all, and the mouse lets go of rows', async (
     if (id !== 'lbContaining') await hand.page.key('Tab');
   }
   assert.equal((await hand.look()).captions[0], 'D');
+  await hand.press('cbScale-11', 'ArrowDown', 'ArrowUp', 'ArrowUp');
+  assert.equal(await hand.page.run(focused), 'cbScale-9', 'arrows go among the notes, no further');
+  await hand.press('lbContaining');
   for (const [key, expected] of keys) {
     await hand.page.key(key);
     await expectRow(hand, expected, key);
