@@ -3,7 +3,10 @@
 (function () {
   'use strict';
   const at = id => document.getElementById(id);
-  const code = Uint8Array.from(atob('@CODE@'), c => c.charCodeAt(0));
+  // A plain loop: Uint8Array.from takes ten times as long, and nothing is painted meanwhile.
+  const bytes = atob('@CODE@');
+  const code = new Uint8Array(bytes.length);
+  for (let i = 0; i < code.length; ++i) code[i] = bytes.charCodeAt(i);
   let run = new AbortController();
 
   // A library without a name is the page's own. Another is checked first, by a run for that alone.
