@@ -35,8 +35,8 @@ class Toolkit {
   virtual void Run() = 0;
   /// Ends the event loop once the running event is over; a loop not yet begun ends at once.
   virtual void Quit() = 0;
-  /// Tells the user a text, and comes back before it is read. Texts are told one after the other;
-  /// one from before Initialise waits for it.
+  /// Tells the user a text; it may come back before that is read. Texts are told one after the
+  /// other; one from before Initialise waits for it.
   virtual void ShowMessage(const String& text) = 0;
   /// Tells of a failure that no one took, in the same way: its class, message and error number as
   /// one text. There may be no memory, and so no more than a line on stderr.

@@ -35,9 +35,10 @@ class Box final : public QCheckBox {
 
  private:
   void GoOn(int step, Qt::FocusReason reason) {
-    const auto next = framework::_NextInSet(box_, step);
-    if (!next) return;
-    parentWidget()->findChild<QWidget*>(ObjectName(*next))->setFocus(reason);
+    framework::_RunEvent([&] {
+      const auto next = framework::_NextInSet(box_, step);
+      if (next) parentWidget()->findChild<QWidget*>(ObjectName(*next))->setFocus(reason);
+    });
   }
 
   framework::CheckBox& box_;  ///< which the peer holds
