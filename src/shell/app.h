@@ -5,9 +5,9 @@
 namespace shell {
 
 /// The program's application object. It has no logic of its own and handles none of its events.
-class App final : public framework::Application {
+class App : public framework::Application {
  public:
-  void Constructor() {}
+  virtual void Constructor() {}
 };
 
 }  // namespace shell

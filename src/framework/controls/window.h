@@ -56,7 +56,7 @@ class Window : public Component {
   /// their creation, the window's own Open; then shows it if it is Visible. A failure in the first
   /// two abandons the window and goes on to the caller. One in an Open event is reported, and the
   /// window opens all the same.
-  void Constructor();
+  virtual void Constructor();
 
   /// A new control that belongs to this window. Its Constructor is the caller's next call.
   template <class C, class... Arguments>
