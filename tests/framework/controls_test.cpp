@@ -104,7 +104,7 @@ TEST_F(Controls, OfAMenuHaveTheLastWordOnTheirEnabling) {
 
 TEST_F(Controls, RefuseWhatDoesNotFit) {
   EXPECT_THROW(RuntimeAddEventHandler(box_, 99, ticked_), FunctionNotFoundException);
-  EXPECT_THROW(RuntimeAddEventHandler(list_, Listbox::kOpen, ticked_), TypeMismatchException);
+  EXPECT_THROW(RuntimeAddEventHandler(list_, Listbox::kChange, ticked_), TypeMismatchException);
   EXPECT_THROW(RuntimeAddEventHandler(nullptr, CheckBox::kAction, ticked_), NilObjectException);
   EXPECT_THROW(list_->AddRow(Array<String>()), NilObjectException);
   EXPECT_THROW(bench_->_AddControl("nil", nullptr), NilObjectException);

@@ -34,8 +34,7 @@ constexpr PropertyInfo kProperties[] = {
     Declare<&Listbox::SelectionType>("SelectionType"),
 };
 
-constexpr EventInfo kEvents[] = {{Listbox::kChange, "( Listbox )"},
-                                 {Listbox::kOpen, "( Listbox )"}};
+constexpr EventInfo kEvents[] = {{Listbox::kChange, "( Listbox )"}};
 
 }  // namespace
 

@@ -12,8 +12,7 @@ constexpr PropertyInfo kProperties[] = {
     Declare<&PopupMenu::ListIndex>("ListIndex"),
 };
 
-constexpr EventInfo kEvents[] = {{PopupMenu::kChange, "( PopupMenu )"},
-                                 {PopupMenu::kOpen, "( PopupMenu )"}};
+constexpr EventInfo kEvents[] = {{PopupMenu::kChange, "( PopupMenu )"}};
 
 }  // namespace
 
