@@ -46,8 +46,6 @@ std::vector<Ref<Window>>& Windows() {
 
 constinit const ClassInfo Window::kClass{"Window", nullptr, kProperties, {}};
 
-Window::~Window() = default;
-
 Ref<framework::MenuBar> Window::MenuBar() const {
   _UITrap();
   return menu_bar_;

@@ -24,9 +24,7 @@ class Window : public Component {
   const ClassInfo& _Class() const override { return kClass; }
   static const ClassInfo kClass;
 
-  ~Window() override;
-
-  Property<std::int64_t> Width{*this, Change::Frame};  ///< of the content area, in points, as all
+  Property<std::int64_t> Width{*this, Change::Frame};  ///< of the content area, in points
   Property<std::int64_t> Height{*this, Change::Frame};
   Property<std::int64_t> MinWidth{*this, Change::Frame};
   Property<std::int64_t> MinHeight{*this, Change::Frame};
