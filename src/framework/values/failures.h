@@ -30,9 +30,6 @@ class RuntimeException {
   RuntimeException& operator=(const RuntimeException&) = default;
   virtual ~RuntimeException() = default;
 
-  /// Raises this failure, of whatever class a reference knows it, and notes the stack.
-  [[noreturn]] virtual void _Raise() const { RaiseAs(*this); }
-
   /// The stack at the raising, innermost place first; empty before that, and where the system
   /// cannot tell.
   virtual Array<StackFrame> CallStack() const;
@@ -40,6 +37,8 @@ class RuntimeException {
   virtual Array<String> Stack() const;
   /// The class of the failure itself, not of the reference to it: "IOException".
   virtual std::string_view ClassName() const noexcept { return TypeName<RuntimeException>(); }
+  /// Raises this failure, of whatever class a reference knows it, and notes the stack.
+  [[noreturn]] virtual void _Raise() const { RaiseAs(*this); }
 
   std::int64_t ErrorNumber() const noexcept { return error_number_; }
   void ErrorNumber(std::int64_t value) noexcept { error_number_ = value; }
