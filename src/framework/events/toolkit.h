@@ -10,6 +10,7 @@
 
 namespace framework {
 
+// These stand on the floor above; here they are names alone.
 class Window;
 class WindowPeer;
 
