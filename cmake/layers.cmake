@@ -1,5 +1,5 @@
-# How our own targets are built. One folder below src/ is one namespace and one library, which sees
-# the headers of what it links and no others.
+# How our own targets are built. A folder of src/ is a library, which sees the headers of what it
+# links and no others; those of framework/ and toolkit/ are each a library of their own.
 
 find_package(Threads REQUIRED)
 
