@@ -15,7 +15,11 @@ struct Bench final : framework::Window {
   explicit Bench(toolkit::memory::MemoryToolkit& toolkit) : log(toolkit) {}
   void Changed(const Ref<Listbox>&) { log.Log("changed"); }
   void Ticked(const Ref<CheckBox>&) { log.Log("ticked"); }
+  void Event_Open() override {
+    if (late) late->Constructor();
+  }
   toolkit::memory::MemoryToolkit& log;
+  Ref<CheckBox> late;  ///< finished by the window's Open
 };
 
 class Controls : public support::Running {
@@ -57,6 +61,13 @@ TEST_F(Controls, RaiseEventsForTheUserAndForAChosenRowThatGoes) {
   for (int twice = 0; twice < 2; ++twice) list_->Select(0);
   for (int twice = 0; twice < 2; ++twice) list_->DeleteAllRows();
   EXPECT_THAT(toolkit_.Lines(), ElementsAre("ticked", "changed", "changed"));
+}
+
+TEST_F(Controls, GetTheirOpenOnceAlsoWhenTheWindowsOpenMakesThem) {
+  bench_->late = bench_->__New<CheckBox>();
+  for (const auto& box : {box_, bench_->late}) RuntimeAddEventHandler(box, Control::kOpen, ticked_);
+  bench_->Constructor();
+  EXPECT_THAT(toolkit_.Lines(), ElementsAre("ticked", "ticked"));
 }
 
 TEST_F(Controls, OutliveTheirWindow) {

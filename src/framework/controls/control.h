@@ -50,8 +50,8 @@ class RectControl : public Control {
   const ClassInfo& _Class() const override { return kClass; }
   static const ClassInfo kClass;
 
-  /// Finishes a control that the window's __New made. In a window that is open already, the control
-  /// gets its Open event and comes on the screen.
+  /// Finishes a control that the window's __New made. In a window that has made its own controls it
+  /// gets its Open event at once, and in one that is shown it comes on the screen.
   virtual void Constructor();
 
   Property<std::int64_t> Left{*this, Change::Frame};

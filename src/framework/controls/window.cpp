@@ -62,12 +62,12 @@ void Window::Constructor() {
   Layout();
   CreateControls();
   Windows().push_back(self);
+  made_ = true;
   for (const Ref<Control>& control : _Controls()) {
     RunLoopApplication::_CallFunctionWithExceptionHandling(
         [&] { control->_Raise(Control::kOpen); });
   }
   RunLoopApplication::_CallFunctionWithExceptionHandling([this] { Event_Open(); });
-  opened_ = true;
   if (Visible()) peer_ = Toolkit::Current().Show(self);
 }
 
@@ -95,7 +95,7 @@ std::vector<Ref<Control>> Window::_Controls() const {
 }
 
 void Window::_Finish(const Ref<RectControl>& control) {
-  if (!opened_) return;
+  if (!made_) return;
   RunLoopApplication::_CallFunctionWithExceptionHandling([&] { control->_Raise(Control::kOpen); });
   if (peer_ != nullptr) peer_->Added(control);
 }

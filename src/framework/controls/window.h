@@ -73,8 +73,8 @@ class Window : public Component {
   /// All controls, in the order of their filing.
   std::vector<Ref<Control>> _Controls() const;
 
-  /// The last step of a control's making: in a window that has opened, raises its Open and shows
-  /// it.
+  /// The last step of a control's making: in a window that is opening or open, raises its Open; in
+  /// one that is shown, shows it.
   void _Finish(const Ref<RectControl>& control);
 
   /// The user's input: closes the window. With the last one the application ends.
@@ -96,7 +96,7 @@ class Window : public Component {
   std::vector<Entry> registry_;
   Ref<framework::MenuBar> menu_bar_;
   std::unique_ptr<WindowPeer> peer_;
-  bool opened_ = false;
+  bool made_ = false;  ///< its own controls are made
   bool closed_ = false;
 };
 
