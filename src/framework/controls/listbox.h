@@ -24,7 +24,7 @@ class Listbox : public RectControl {
   /// Columns of each row, at least 1. Setting it empties the cells that it cuts off.
   std::int64_t ColumnCount() const { return column_count_; }
   void ColumnCount(std::int64_t value);
-  /// A width for each column, joined by commas: each "35%" of the list's width.
+  /// The widths of the columns, joined by commas, as shares of the list's: "35%,65%".
   Property<String> ColumnWidths{*this, Change::Look};
   Property<std::int64_t> DefaultRowHeight{*this, Change::Look};  ///< -1: the platform's
   Property<std::int64_t> GridLinesHorizontal{*this, Change::Look};

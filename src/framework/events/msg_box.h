@@ -4,8 +4,8 @@
 
 namespace framework {
 
-/// Shows a text in a message box, once the event that asks for it is over and the boxes before it
-/// have been read.
+/// Shows a text in a message box, once the boxes before it have been read. It may come back before
+/// the text is read; which, the toolkit decides.
 void MsgBox(const String& text);
 
 }  // namespace framework
