@@ -240,16 +240,4 @@ TEST(Checker, ReportsAnErrorExactlyForWhatStopsTheLoading) {
   EXPECT_THAT(as_a_whole, testing::AllOf(testing::Gt(50), testing::Lt(950)));
 }
 
-TEST(Characters, AreThoseOfUtf8AndNoOthers) {
-  for (const std::string_view good : {"\x7F", "\u0080", "\u07FF", "\u0800", "\uD7FF", "\uE000",
-                                      "\uFFFF", "\U00010000", "\U0010FFFF"}) {
-    EXPECT_EQ(check::CharacterSize(good), good.size()) << check::Quoted(good);
-  }
-  for (const std::string_view bad :
-       {"", "\x80", "\xC1\xBF", "\xC3", "\xC3(", "\xE0\x9F\xBF", "\xE2\x82", "\xED\xA0\x80",
-        "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xE2\x82\xC0", "\xFF"}) {
-    EXPECT_EQ(check::CharacterSize(bad), 0U) << check::Quoted(bad);
-  }
-}
-
 }  // namespace
