@@ -58,7 +58,10 @@
   addEventListener('resize', fit);
   addEventListener('error', end);
   addEventListener('unhandledrejection', end);
-  at('own').addEventListener('change', e => { open(e.target.files[0]); });
+  at('own').addEventListener('change', e => {
+    open(e.target.files[0]);
+    e.target.value = '';  // or the same file, once it is mended, would be no change
+  });
   addEventListener('dragover', e => e.preventDefault());
   addEventListener('drop', e => { e.preventDefault(); open(e.dataTransfer.files[0]); });
   fit();

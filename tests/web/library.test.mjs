@@ -1,7 +1,7 @@
 // Libraries in the page and such as the user brings, good and bad: what is told of them, and that the
 // program goes on.
 import assert from 'node:assert/strict';
-import { readFileSync } from 'node:fs';
+import { readFileSync, writeFileSync } from 'node:fs';
 import { eventually, testIn, testInEach } from './hand.mjs';
 import { addressOf, file, fourScales, html, latin, library, line, pageOn } from './page.mjs';
 
@@ -97,7 +97,7 @@ testInEach('a dropped library opens anew, and is not kept', async (hand, t) => {
   await eventually(async () => assert.ok((await hand.look()).lbContaining.count > 600));
 });
 
-testIn('Chromium', 'a library is chosen by the keyboard', async (hand) => {
+testIn('Chromium', 'a library is chosen by the keyboard, and again once it is mended', async (hand) => {
   await hand.open(pageOn(fourScales));
   const { puppet } = hand.page;
   for (let tabs = 0; await puppet.evaluate(() => document.activeElement.type) !== 'file'; ++tabs) {
@@ -110,13 +110,21 @@ testIn('Chromium', 'a library is chosen by the keyboard', async (hand) => {
     return asked;
   };
   const chooser = await press().catch(press);  // a busy machine can take the first key for no user's
-  await chooser.accept([file('mine.csv', library(line('Mine', '110000000000')))]);
+  const mine = file('mine.csv', library(line('Mine', '110000000000')));
+  await chooser.accept([mine]);
   await eventually(async () => {
     assert.match(await hand.page.run(report), /mine\.csv/);
     await hand.look();
   });
   await hand.tick(0);
   await expectRows(hand, 'Bank|Mine|C');
+  writeFileSync(mine, library(line('Mended', '110000000000')));
+  const again = puppet.waitForFileChooser({ timeout: 5000 });
+  await puppet.click('#own');
+  await (await again).accept([mine]);
+  await eventually(async () => assert.deepEqual((await hand.look()).ticked, []));
+  await hand.tick(0);
+  await expectRows(hand, 'Bank|Mended|C');
 });
 
 testIn('Chromium', 'a browser that cannot run the program gets a sentence', async (hand) => {
