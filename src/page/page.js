@@ -52,8 +52,17 @@
     root.style.setProperty('--page', root.clientWidth);
   }
 
+  // A browser may know WebAssembly and yet let no page run it that has a policy like ours.
+  function runsCode() {
+    try {
+      return !!new WebAssembly.Module(Uint8Array.of(0, 97, 115, 109, 1, 0, 0, 0));
+    } catch (failure) {
+      return false;
+    }
+  }
+
   at('sorry').className = '';
-  if (typeof WebAssembly !== 'object') return;
+  if (!runsCode()) return;
   at('sorry').hidden = true;
   addEventListener('resize', fit);
   addEventListener('error', end);
