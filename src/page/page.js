@@ -14,14 +14,24 @@
     run.abort();  // an earlier run hears of nothing any more
     run = new AbortController();
     const signal = run.signal;
+    // A failure that the program could not take itself is its end. Scripts of others, as of a
+    // browser's extension, fail on this page too, and that is none.
+    const fail = failure => {
+      if (signal.aborted) return;
+      console.error(failure);
+      end();
+    };
+    const quit = (status, failure) => { if (status !== 0) fail(failure); };
+    const launch = more => OrrelPitchsieve(
+        { wasmBinary: code, library, signal, fail, quit, ...more }).catch(fail);
     at('desk').replaceChildren();
     at('ended').hidden = true;
     report(name, '');
     if (name) {
-      await OrrelPitchsieve({ wasmBinary: code, library, check: true });
+      await launch({ check: true });
       await new Promise(done => setTimeout(done, 50));  // for the eye to meet what was found
     }
-    if (!signal.aborted) await OrrelPitchsieve({ wasmBinary: code, library, signal });
+    if (!signal.aborted) await launch({});
   }
 
   function report(name, summary) {
@@ -32,6 +42,7 @@
   }
 
   function end() {
+    run.abort();
     at('desk').replaceChildren();
     at('ended').hidden = false;
   }
@@ -65,8 +76,6 @@
   if (!runsCode()) return;
   at('sorry').hidden = true;
   addEventListener('resize', fit);
-  addEventListener('error', end);
-  addEventListener('unhandledrejection', end);
   at('own').addEventListener('change', e => {
     open(e.target.files[0]);
     e.target.value = '';  // or the same file, once it is mended, would be no change

@@ -137,3 +137,32 @@ testIn('Chromium', 'a browser that cannot run the program gets a sentence', asyn
   await hand.page.open(addressOf(html));
   await said();
 });
+
+// A browser in which what an element is told fails with a certain text, as if the program were broken.
+function breakOn(text) {
+  const whole = Element.prototype.setAttribute;
+  Element.prototype.setAttribute = function (name, value) {
+    if (value === text) throw new Error('provoked');
+    return whole.call(this, name, value);
+  };
+}
+
+testIn('Chromium', 'the page says so when the program has ended, and of no other failure', async (hand) => {
+  const { puppet } = hand.page;
+  const ended = () => puppet.$eval('#ended', (element) => element.checkVisibility());
+  await hand.open(addressOf(html));
+  await puppet.evaluate(() => new Promise((done) => {
+    addEventListener('error', () => setTimeout(done));
+    setTimeout(() => { throw new Error('of an extension'); });
+  }));
+  await hand.tick(0);
+  await eventually(async () => assert.equal((await hand.look()).lbContaining.count, 682));
+  assert.equal(await ended(), false);
+  await puppet.evaluate(breakOn, 'true');
+  await hand.chooseRow(0);
+  await eventually(async () => assert.equal(await ended(), true));
+  assert.equal(await puppet.$('#lbContaining'), null);
+  await puppet.evaluateOnNewDocument(breakOn, 'lbContaining');  // at the start already
+  await puppet.reload();
+  await eventually(async () => assert.equal(await ended(), true));
+});

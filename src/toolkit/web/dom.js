@@ -10,14 +10,23 @@ mergeInto(LibraryManager.library, {
   $add: function (element) { page.elements.set(++page.last, element); return page.last; },
   $at__deps: ['$page'],
   $at: function (number) { return page.elements.get(number); },
+  // Calls back as long as the run goes on. What the program lets through has broken it: the run fails.
+  $call: function (callback, work) {
+    if (Module.signal.aborted) return;
+    try {
+      callback(work);
+    } catch (failure) {
+      Module.fail(failure);
+    }
+  },
   // Calls back for each event of the target as long as the element with that number is there, and
   // the run that it belongs to.
-  $listen__deps: ['$page'],
+  $listen__deps: ['$page', '$call'],
   $listen: function (number, target, event, listener) {
     target.addEventListener(event, function (e) {
       if (!page.elements.has(number)) return;
       page.event = e;
-      _page_Heard(listener);
+      call(_page_Heard, listener);
       page.event = null;
     }, { signal: Module.signal });
   },
@@ -65,7 +74,8 @@ mergeInto(LibraryManager.library, {
   page_Watch: function (number, query, listener) {
     listen(number, matchMedia(UTF8ToString(query)), 'change', listener);
   },
-  page_Later: function (delay, work) { setTimeout(function () { _page_Due(work); }, delay); },
+  page_Later__deps: ['$call'],
+  page_Later: function (delay, work) { setTimeout(function () { call(_page_Due, work); }, delay); },
 
   // Of the event: its place in the list of keys, or -1 for another or one with a modifier; the row
   // that it points at, or -1; whether a click takes the choice of its row back.
