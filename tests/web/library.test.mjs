@@ -86,6 +86,7 @@ testInEach('a dropped library opens anew, and is not kept', async (hand, t) => {
         const { ticked, lbContaining, value } = await hand.look();
         assert.deepEqual([ticked, lbContaining.count, value], [[], 0, ' ']);
         assert.match(await hand.page.run(report), reported);
+        assert.equal(await hand.page.run(() => document.getElementById('tally').textContent), '');
       });
       await expectTold(hand, told);
       await hand.tick(0);

@@ -17,13 +17,15 @@ PageWindow::PageWindow(const Ref<framework::Window>& window)
       desk_(Element::Of("desk")),
       frame_(desk_, "div"),
       content_(frame_, "div"),
-      tally_(Element::Of("tally")) {
+      tally_(desk_, "p") {
   Element::Of("title").Text(window_.Title());
   Element::Of("heading").Text(window_.Title());
   frame_.Attribute("class", "frame");
   frame_.Style("--width", std::to_string(window_.Width()));
   frame_.Style("--height", std::to_string(window_.Height()));
   content_.Attribute("class", "window");
+  tally_.Attribute("id", "tally");
+  tally_.Attribute("role", "status");
   for (const Ref<Control>& control : window_._Controls()) {
     peers_.push_back(MakePeer(RuntimeCheckCast<RectControl>(control), content_));
   }
