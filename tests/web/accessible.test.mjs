@@ -67,3 +67,16 @@ testIn('Chromium', 'names, rows with their number, and stars with their boxes ar
     return ['role', 'aria-rowindex', 'aria-selected'].map((name) => row.getAttribute(name));
   }), ['row', '1', 'true']);
 });
+
+testIn('Chromium', 'in forced colours the root menu has its arrow still', async (hand) => {
+  await hand.page.protocol.send('Emulation.setEmulatedMedia',
+    { features: [{ name: 'forced-colors', value: 'active' }] });
+  await hand.open(pageOn(fourScales));
+  const picture = async (ground) => {
+    await hand.page.run((ground) => {
+      document.getElementById('pmRoot').style.setProperty('background-image', ground);
+    }, ground);
+    return hand.page.puppet.$('#pmRoot').then((menu) => menu.screenshot({ encoding: 'base64' }));
+  };
+  assert.notEqual(await picture(''), await picture('none'));
+});
