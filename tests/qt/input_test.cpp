@@ -1,0 +1,124 @@
+#include <QAction>
+#include <QTimer>
+
+#include "qt/qt_hand.h"
+#include "support/behaviour.h"
+
+// What each key and each mouse button does.
+
+namespace {
+
+using namespace framework;
+using namespace support;
+using testing::ElementsAre;
+
+using Input = Behaviour<QtHand>;
+
+TEST_F(Input, TabGoesDownTheLeftColumnThenTheRight) {
+  Open();
+  std::string order;
+  for (int i = 0; i < 18; ++i) {
+    order += QApplication::focusWidget()->objectName().toStdString() + " ";
+    QtHand::Press(*QApplication::focusWidget(), Qt::Key_Tab);
+  }
+  EXPECT_EQ(order,
+            "pmRoot cbOther cbRinL cbScale0 cbScale1 cbScale2 cbScale3 cbScale4 cbScale5 cbScale6 "
+            "cbScale7 cbScale8 cbScale9 cbScale10 cbScale11 lbExact lbContaining pmRoot ");
+}
+
+TEST_F(Input, ArrowKeysGoUpAndDownInOneSetOfBoxesAndNowhereElse) {
+  Open();
+  const auto after = [](const char* first, Qt::Key key, int times) {
+    Find(first).setFocus();
+    while (times-- > 0) QtHand::Press(*QApplication::focusWidget(), key);
+    return QApplication::focusWidget()->objectName().toStdString();
+  };
+  EXPECT_EQ(after("cbScale0", Qt::Key_Down, 3), "cbScale3");
+  EXPECT_EQ(after("cbScale0", Qt::Key_Down, 15), "cbScale11");
+  EXPECT_EQ(after("cbScale11", Qt::Key_Up, 4), "cbScale7");
+  EXPECT_EQ(after("cbScale3", Qt::Key_Up, 7), "cbScale0");
+  for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right}) {
+    EXPECT_EQ(after("cbOther", key, 1), "cbOther");
+    EXPECT_EQ(after("cbRinL", key, 1), "cbRinL");
+  }
+  for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right}) {
+    EXPECT_EQ(after("cbScale4", key, 1), "cbScale4");
+  }
+  EXPECT_EQ(window_->pmRoot()->ListIndex(), 3);
+}
+
+TEST_F(Input, RowsAreChosenByKeysAndLetGoByMouse) {
+  Open();
+  hand_->TickOther();
+  auto& list = Find<QTableView>("lbContaining");
+  const auto row_after = [&](Qt::Key key) {
+    QtHand::Press(list, key);
+    return window_->lbContaining()->ListIndex();
+  };
+  list.setFocus();
+  EXPECT_EQ(row_after(Qt::Key_Down), 0);
+  EXPECT_EQ(row_after(Qt::Key_Down), 1);
+  EXPECT_EQ(row_after(Qt::Key_End), 47);
+  EXPECT_LT(row_after(Qt::Key_PageUp), 45);
+  EXPECT_EQ(row_after(Qt::Key_Home), 0);
+  EXPECT_GT(row_after(Qt::Key_PageDown), 2);
+  hand_->ChooseRow(2);
+  QtHand::ClickRow("lbContaining", 2, Qt::ControlModifier);
+  EXPECT_EQ(window_->lbContaining()->ListIndex(), -1) << "with the Ctrl key";
+  hand_->TickOther();
+  hand_->ChooseRow(2);
+  QtHand::Click(*list.viewport(), list.viewport()->rect().bottomLeft());
+  EXPECT_EQ(window_->lbContaining()->ListIndex(), -1) << "beside the rows";
+}
+
+TEST_F(Input, OnlyTheMainButtonDoesAnything) {
+  Open();
+  hand_->Tick(0);
+  hand_->ChooseRow(0);
+  QApplication::setDoubleClickInterval(1);  // a popup that has just opened takes no click
+  auto& list = Find<QTableView>("lbContaining");
+  auto& popup = Find<QComboBox>("pmRoot");
+  const QPoint row = list.visualRect(list.model()->index(1, 1)).center();
+  const QPoint beside = list.viewport()->rect().bottomLeft();
+  for (const auto button : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
+    SCOPED_TRACE(button);
+    for (const QPoint& place : {row, beside}) {
+      QTest::mouseClick(list.viewport(), button, {}, place);
+      QTest::mouseDClick(list.viewport(), button, {}, place);
+      EXPECT_EQ(window_->lbContaining()->ListIndex(), 0);
+    }
+    QTest::mouseClick(&Find("cbScale2"), button, {}, {8, 8});
+    QTest::mouseClick(&popup, button);
+    EXPECT_FALSE(popup.view()->isVisible());
+    popup.showPopup();
+    QWidget& rows = *popup.view()->viewport();
+    const QPoint last = popup.view()->visualRect(popup.model()->index(11, 0)).center();
+    QTest::mouseMove(&rows, last);
+    QTest::qWait(10);
+    QTest::mouseClick(&rows, button, {}, last);
+    popup.hidePopup();
+    QApplication::processEvents();
+    EXPECT_EQ(window_->pmRoot()->ListIndex(), 3);
+  }
+  EXPECT_FALSE(window_->cbScale(2)->Value());
+}
+
+TEST_F(Input, MenusOpenByTheirLettersAndClosingEndsTheRun) {
+  Open();
+  std::vector<std::string> enabled;
+  for (const Qt::Key key : {Qt::Key_F, Qt::Key_E}) {
+    QtHand::Press(Native(), key, Qt::AltModifier);
+    QWidget* const menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    for (const QAction* const action : menu->actions()) {
+      const bool live = action->isEnabled() && !action->isSeparator();
+      if (live) enabled.push_back(action->objectName().toStdString());
+    }
+    QtHand::Press(*menu, Qt::Key_Escape);
+  }
+  EXPECT_THAT(enabled, ElementsAre("FileQuit"));
+  QTimer::singleShot(0, [] { Native().close(); });
+  _RuntimeRun();
+}
+
+}  // namespace

@@ -1,0 +1,71 @@
+#include <QScrollBar>
+#include <QSignalSpy>
+
+#include "qt/qt_hand.h"
+#include "support/behaviour.h"
+
+// How a list shows its rows and columns.
+
+namespace {
+
+using namespace support;
+
+using Lists = Behaviour<QtHand>;
+
+TEST_F(Lists, ListsHaveThreeColumnsAndAreRefreshedOnce) {
+  Open();
+  auto& list = Find<QTableView>("lbContaining");
+  const QSignalSpy refreshed(list.model(), &QAbstractItemModel::modelReset);
+  hand_->TickOther();
+  EXPECT_EQ(refreshed.count(), 1);
+  EXPECT_EQ(list.model()->columnCount(), 3);
+}
+
+class CountOfPaintings final : public QObject {
+ public:
+  bool eventFilter(QObject*, QEvent* event) override {
+    count += event->type() == QEvent::Paint;
+    return false;
+  }
+  int count = 0;
+};
+
+TEST_F(Lists, ColumnsReachToTheFrameOrToTheScrollBar) {
+  Open();
+  auto& list = Find<QTableView>("lbContaining");
+  auto& bar = *list.verticalScrollBar();
+  const int beside_bar = 385 - bar.sizeHint().width();
+  CountOfPaintings paintings;
+  list.viewport()->installEventFilter(&paintings);
+  for (const bool long_list : {true, false, true}) {
+    paintings.count = 0;
+    window_->lbContaining()->DeleteAllRows();
+    for (int row = 0; row < (long_list ? 100 : 3); ++row) window_->lbContaining()->AddRow({"a"});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.isVisible() == long_list; }));
+    QTest::qWait(20);
+    EXPECT_EQ(paintings.count, 1);
+    EXPECT_EQ(list.horizontalScrollBar()->maximum(), 0);
+    EXPECT_EQ(list.columnWidth(0), beside_bar * 35 / 100);
+    EXPECT_EQ(list.columnWidth(1), beside_bar / 2);
+    const int end = list.columnViewportPosition(2) + list.columnWidth(2);
+    EXPECT_EQ(end, 385 - (long_list ? bar.width() : 0));
+    const QRect row = list.visualRect(list.model()->index(1, 0));
+    for (int y = row.top(); y <= row.bottom(); ++y) {
+      for (const int x : {0, end - 1}) {
+        hand_->ChooseRow(0);
+        QtHand::Click(*list.viewport(), {x, y});
+        EXPECT_EQ(window_->lbContaining()->ListIndex(), 1) << x << ", " << y;
+      }
+    }
+  }
+}
+
+TEST_F(Lists, BytesThatAreNoTextShowAsSuch) {
+  Open("a\nb\n\xFF&,&S\xC3,TRUE,,,,,,,,,,,");
+  hand_->Tick(0);
+  const auto* const model = Find<QTableView>("lbExact").model();
+  EXPECT_EQ(model->index(0, 0).data().toString(), QString::fromUtf8("\uFFFD&"));
+  EXPECT_EQ(model->index(0, 1).data().toString(), QString::fromUtf8("&S\uFFFD"));
+}
+
+}  // namespace
