@@ -68,4 +68,18 @@ TEST_F(Lists, BytesThatAreNoTextShowAsSuch) {
   EXPECT_EQ(model->index(0, 1).data().toString(), QString::fromUtf8("&S\uFFFD"));
 }
 
+TEST_F(Lists, TextWithLineBreaksStandsOnOneLine) {
+  Open();
+  for (const char* const name : {"do\u2028re\u2028mi", "do\nre\nmi", "do re mi"}) {
+    window_->lbContaining()->AddRow({"", name, ""});
+  }
+  QApplication::processEvents();
+  auto& list = Find<QTableView>("lbContaining");
+  const auto picture = [&](int row) {
+    return list.viewport()->grab(list.visualRect(list.model()->index(row, 1))).toImage();
+  };
+  EXPECT_EQ(picture(0), picture(2));
+  EXPECT_EQ(picture(1), picture(2));
+}
+
 }  // namespace

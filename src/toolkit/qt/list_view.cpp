@@ -24,6 +24,12 @@ class RowDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
+  /// On one line, of which alone the row has the height.
+  QString displayText(const QVariant& value, const QLocale& locale) const override {
+    QString text = QStyledItemDelegate::displayText(value, locale);  // has one kind of line break
+    return text.replace(QChar(QChar::LineSeparator), QLatin1Char(' '));
+  }
+
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
@@ -42,7 +48,7 @@ class RowDelegate final : public QStyledItemDelegate {
     initStyleOption(&cell, index);
     const QString whole = index.data(Qt::ToolTipRole).toString();
     const bool fits = cell.fontMetrics.horizontalAdvance(cell.text) <= RoomIn(cell);
-    if (fits && cell.text == whole) return false;
+    if (fits && cell.text.size() == whole.size()) return false;
     QToolTip::showText(event->globalPos(), ToolTipWithin(*view->screen(), whole), view->viewport(),
                        cell.rect);
     return true;
