@@ -5,7 +5,8 @@
 namespace toolkit::qt {
 
 /// As a filter on the application, keeps every mouse button but the main one from whatever is on
-/// the screen. Left to itself, the toolkit lets the others choose rows and entries too.
+/// the screen; beside an open menu any button closes the menu. Left to itself, the toolkit lets the
+/// others choose rows and entries too.
 class MainButtonOnly final : public QObject {
  public:
   using QObject::QObject;
