@@ -22,7 +22,7 @@ class NoScreen final : public framework::Toolkit {
   void Run() override {}
   void Quit() override {}
   void ShowMessage(const framework::String&) override {}
-  void ReportFailure(const framework::String&) override {}
+  void ReportFailure(std::string_view) override {}
   void CallLater(std::int64_t, std::function<void()>) override {}
 };
 
