@@ -3,21 +3,36 @@
 
 usage: tools/mutate.py [--at-most N] [PATH...]
 
-Takes each source under the PATHs (by default the layers that do the program's own work), turns one
-comparison, bound, sign, constant or truth value over or leaves a call out, builds the tests that need no screen, and runs
-them. It works on a copy in build/mutants. --at-most N takes N mistakes of each file, evenly spread.
-Prints each mistake that no test noticed, and the share that they did. The status is 0 from 95 % on.
+Takes each source under the PATHs (by default all of src/ that a desktop builds), turns one
+comparison, bound, sign, constant or truth value over or leaves a call out, builds the tests that are
+to notice, and runs them. It works on a copy in build/mutants. --at-most N takes N mistakes of each
+file, evenly spread. Prints each mistake that no test noticed, and for each folder the share that they
+did. The status is 0 when that is 95 % or more in every folder.
 """
+import collections
+import os
 import pathlib
 import re
-import shutil
 import subprocess
 import sys
 
-LAYERS = ["src/pitch", "src/library", "src/matching", "src/window"]
-TESTS = ["pitch_test", "program_test"]
-COPIED = ["CMakeLists.txt", "cmake", "fuzz", "resources", "src", "tests"]
-SECONDS = 30  # a mistake that makes a test run longer is noticed
+# Which test programs are to notice a mistake in a folder, the quickest first. A folder stands for
+# what lies below it.
+NOTICED_BY = {
+    "src/framework": ["framework_test", "program_test", "out_of_memory_test"],
+    "src/pitch": ["pitch_test", "program_test"],
+    "src/library": ["program_test"],
+    "src/matching": ["program_test"],
+    "src/menu": ["program_test"],
+    "src/window": ["program_test"],
+    "src/shell": ["program_test"],
+    "src/check": ["check_test", "orrel-check-library"],
+    "src/toolkit/memory": ["program_test"],
+    "src/toolkit/qt": ["qt_test"],
+}
+# Those of ctest's tests that are no test program, by the folder whose mistakes they are to notice.
+CTESTS = {"src/window": "^row_", "src/check": "^checker"}
+SECONDS = 60  # a mistake that makes a test run longer is noticed
 WANTED = 95
 
 # What is written around blanks is an operator here, as the format has it; the rest is of templates.
@@ -58,6 +73,49 @@ def passes(command, **options):
         return False
 
 
+def copy(root, tree):
+    """Brings the copy to what the files are now. What differs is written anew, with the time of now,
+    so that a build takes up whatever an interrupted run has left."""
+    listed = subprocess.run(["git", "ls-files", "-co", "--exclude-standard"], cwd=root, check=True,
+                            capture_output=True, text=True).stdout.splitlines()
+    for name in listed:
+        source, target = root / name, tree / name
+        if not source.is_file():
+            continue
+        if target.is_file() and target.read_bytes() == source.read_bytes():
+            continue
+        target.parent.mkdir(parents=True, exist_ok=True)
+        target.write_bytes(source.read_bytes())
+        target.chmod(source.stat().st_mode)
+    for target in [path for path in tree.rglob("*") if path.is_file()]:
+        if str(target.relative_to(tree)) not in listed:
+            target.unlink()
+
+
+class Tests:
+    """The tests that are to notice a mistake in one folder of the copy."""
+
+    def __init__(self, folder, build):
+        self.programs = NOTICED_BY[folder]
+        self.ctest = CTESTS.get(folder)
+        self.build = build
+
+    def built(self):
+        return passes(["cmake", "--build", self.build, "-j2", "--target", *self.programs])
+
+    def passed(self):
+        quiet = dict(os.environ, QT_QPA_PLATFORM="offscreen",
+                     DBUS_SESSION_BUS_ADDRESS="disabled:")
+        return all(passes([self.build / "tests" / program, "--gtest_fail_fast"], timeout=SECONDS,
+                          env=quiet)
+                   for program in self.programs if program.endswith("_test")) and (
+            self.ctest is None or passes(["ctest", "--test-dir", self.build, "-R", self.ctest]))
+
+
+def folder_of(source):
+    return next((folder for folder in NOTICED_BY if f"{source}/".startswith(f"{folder}/")), None)
+
+
 def main():
     arguments = sys.argv[1:]
     most = None
@@ -67,29 +125,25 @@ def main():
     root = pathlib.Path(__file__).resolve().parent.parent
     tree = root / "build/mutants/tree"
     build = root / "build/mutants/build"
-    shutil.rmtree(tree, ignore_errors=True)
-    tree.mkdir(parents=True)
-    for name in COPIED:
-        subprocess.run(["cp", "-a", root / name, tree], check=True)
-    subprocess.run(["cmake", "-S", tree, "-B", build, "-DPITCHSIEVE_QT=OFF", "-DPITCHSIEVE_TESTS=ON",
+    tree.mkdir(parents=True, exist_ok=True)
+    copy(root, tree)
+    subprocess.run(["cmake", "-S", tree, "-B", build, "-DPITCHSIEVE_TESTS=ON",
                     "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0"], check=True,
                    stdout=subprocess.DEVNULL)
-    make = ["cmake", "--build", build, "-j2", "--target", *TESTS]
 
-    def tests_pass():
-        return all(passes([build / "tests" / test, "--gtest_fail_fast"], timeout=SECONDS)
-                   for test in TESTS) and passes(["ctest", "--test-dir", build, "-R", "^row_"])
-
-    if not passes(make) or not tests_pass():
-        sys.exit("The tests do not pass as it stands.")
-
-    caught = unbuilt = 0
-    survivors = []
-    for folder in arguments or LAYERS:
-        path = tree / folder
-        for source in sorted(path.rglob("*")) if path.is_dir() else [path]:
-            if source.suffix not in (".h", ".cpp"):
+    caught = collections.Counter()
+    survived = collections.Counter()
+    unbuilt = 0
+    for path in arguments or NOTICED_BY:
+        sources = sorted((tree / path).rglob("*")) if (tree / path).is_dir() else [tree / path]
+        for source in sources:
+            place = source.relative_to(tree)
+            folder = folder_of(place)
+            if source.suffix not in (".h", ".cpp") or folder is None:
                 continue
+            tests = Tests(folder, build)
+            if not tests.built() or not tests.passed():
+                sys.exit(f"The tests of {folder} do not pass as it stands.")
             right = source.read_text()
             mutants = list(mutants_of(right))
             if most and len(mutants) > most:
@@ -98,20 +152,22 @@ def main():
                 lines = right.splitlines(keepends=True)
                 lines[number - 1] = new + "\n"
                 source.write_text("".join(lines))
-                if not passes(make):
+                if not tests.built():
                     unbuilt += 1
-                elif tests_pass():
-                    survivors.append(f"{source.relative_to(tree)}:{number}\n  {old.strip()}\n  {new.strip()}")
-                    print(survivors[-1], flush=True)
+                elif tests.passed():
+                    survived[place.parent] += 1
+                    print(f"{place}:{number}\n  {old.strip()}\n  {new.strip()}", flush=True)
                 else:
-                    caught += 1
+                    caught[place.parent] += 1
             source.write_text(right)
-            print(f"{source.relative_to(tree)}: {len(mutants)} mistakes", flush=True)
+            print(f"{place}: {len(mutants)} mistakes", flush=True)
 
-    built = caught + len(survivors)
-    share = 100 * caught / built if built else 100
-    print(f"{caught} of {built} mistakes noticed, {share:.1f} %; {unbuilt} more did not compile.")
-    sys.exit(share < WANTED)
+    shares = {folder: 100 * caught[folder] / (caught[folder] + survived[folder])
+              for folder in sorted({*caught, *survived})}
+    for folder, share in shares.items():
+        print(f"{folder}: {caught[folder]} of {caught[folder] + survived[folder]} noticed, {share:.1f} %")
+    print(f"{unbuilt} more did not compile.")
+    sys.exit(any(share < WANTED for share in shares.values()))
 
 
 if __name__ == "__main__":
