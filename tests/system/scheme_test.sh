@@ -11,7 +11,11 @@ coproc portal { "$2"; }
 started+=("$portal_PID")
 read -r answer <&"${portal[0]}"
 [ "$answer" = ready ] || fail "no portal"
-tell() { echo "$*" >&"${portal[1]}"; read -r answer <&"${portal[0]}"; }
+tell() {
+  echo "$*" >&"${portal[1]}"
+  read -r answer <&"${portal[0]}"
+  [ "$answer" = done ] || fail "the portal: $*"
+}
 
 # Where there is nothing but the window's ground, and a row that can be chosen.
 ground='100 20 30 575'

@@ -19,6 +19,7 @@
 #include <sstream>
 #include <vector>
 
+const auto kName = QStringLiteral("org.freedesktop.portal.Desktop");
 const auto kPath = QStringLiteral("/org/freedesktop/portal/desktop");
 
 static QVariant Wrapped(const QVariant& value) { return QVariant::fromValue(QDBusVariant(value)); }
@@ -48,10 +49,12 @@ class Portal final : public QDBusVirtualObject {
 
   /// On a connection of its own. Whether the portal's name could be had.
   bool Start() {
-    if (bus_) QDBusConnection::disconnectFromBus(bus_->name());
+    if (bus_) {
+      bus_->unregisterService(kName);  // which waits: a connection goes when it likes
+      QDBusConnection::disconnectFromBus(bus_->name());
+    }
     bus_ = Connection();
-    return bus_->registerVirtualObject(kPath, this) &&
-           bus_->registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
+    return bus_->registerVirtualObject(kPath, this) && bus_->registerService(kName);
   }
 
   void Do(std::istringstream line) {
@@ -65,7 +68,7 @@ class Portal final : public QDBusVirtualObject {
     const QVariant value = ValueOf({std::istream_iterator<double>(line), {}});
     if (!forged) values_[key] = value;
     if (restarted) {
-      Start();
+      if (!Start()) std::cout << "no ";
     } else {
       Tell(key, value, forged ? Connection() : *bus_);
     }
