@@ -31,20 +31,20 @@ outcome() {
   id=$!
   started+=("$id")
   for _ in $(seq 200); do
-    kill -0 "$id" 2>/dev/null || break
-    xdotool search --onlyvisible --pid "$id" --name '^Orrel Pitchsieve$' >/dev/null 2>&1 && break
+    if ! kill -0 "$id" 2>/dev/null; then
+      wait "$id" || status=$?
+      echo "$status $(cat "$work/said")"
+      return
+    fi
+    if xdotool search --onlyvisible --pid "$id" --name '^Orrel Pitchsieve$' >/dev/null 2>&1; then
+      kill "$id"
+      echo window
+      return
+    fi
     sleep 0.02
   done
-  if ! kill -0 "$id" 2>/dev/null; then
-    wait "$id" || status=$?
-    echo "$status $(cat "$work/said")"
-  elif xdotool search --onlyvisible --pid "$id" --name '^Orrel Pitchsieve$' >/dev/null 2>&1; then
-    kill "$id"
-    echo window
-  else
-    kill "$id"
-    echo hangs
-  fi
+  kill "$id"
+  echo hangs
 }
 refused='1 No window can be opened: the system has no memory left.'
 opened_or_refused() { [ "$1" = window ] || [ "$1" = "$refused" ] || fail "$2: $1"; }
