@@ -19,8 +19,8 @@ if(EMSCRIPTEN)
   # As small as can be: the program is loaded with its page. Each library, the compiler's own too, is
   # linked as a whole program.
   set(CMAKE_CXX_FLAGS_RELEASE "-Oz -DNDEBUG")
-  target_compile_options(pitchsieve_options INTERFACE -fexceptions -flto)
-  target_link_options(pitchsieve_options INTERFACE -fexceptions -flto)
+  target_compile_options(pitchsieve_options INTERFACE -fwasm-exceptions -flto)
+  target_link_options(pitchsieve_options INTERFACE -fwasm-exceptions -flto)
 else()
   # A fault in memory ends the program before it can be put to use. tools/check_hardened.sh looks for
   # all of this in the built files.
