@@ -3,11 +3,18 @@
 (function () {
   'use strict';
   const at = id => document.getElementById(id);
-  // A plain loop: Uint8Array.from takes ten times as long, and nothing is painted meanwhile.
-  const bytes = atob('@CODE@');
-  const code = new Uint8Array(bytes.length);
-  for (let i = 0; i < code.length; ++i) code[i] = bytes.charCodeAt(i);
+  const code = decoded('@CODE@');
   let run = new AbortController();
+
+  // Nothing is painted before the code is there. Where the browser cannot decode by itself, a plain
+  // loop does: Uint8Array.from takes ten times as long.
+  function decoded(text) {
+    if (Uint8Array.fromBase64) return Uint8Array.fromBase64(text);
+    const bytes = atob(text);
+    const code = new Uint8Array(bytes.length);
+    for (let i = 0; i < code.length; ++i) code[i] = bytes.charCodeAt(i);
+    return code;
+  }
 
   // A library without a name is the page's own. Another is checked first, by a run for that alone.
   async function start(library, name) {
@@ -58,9 +65,11 @@
     await start(new Uint8Array(bytes), file.name);
   }
 
+  // To ask for the width has the page laid out, so a page that is wide enough is not asked.
   function fit() {
     const root = document.documentElement;
-    root.style.setProperty('--page', root.clientWidth);
+    const wide = matchMedia('(min-width: 700px)').matches;
+    root.style.setProperty('--page', wide ? 10000 : root.clientWidth);
   }
 
   // A browser may know WebAssembly and yet let no page run it that has a policy like ours.

@@ -21,13 +21,17 @@ RowView::RowView(Element& list, std::string list_id, CellText text)
 }
 
 void RowView::Reset(std::int64_t rows, std::int64_t chosen) {
-  row_height_ = std::max(measure_.Get("offsetHeight"), 1.0);
-  view_height_ = list_.Get("clientHeight");
+  // To measure has the page laid out on the spot, which a list without rows can do without.
+  if (rows > 0) {
+    row_height_ = std::max(measure_.Get("offsetHeight"), 1.0);
+    view_height_ = list_.Get("clientHeight");
+  }
   rows_ = rows;
   chosen_ = chosen;
   list_.Attribute("aria-rowcount", rows);
   space_.Pixels("height", static_cast<std::int64_t>(ScrolledHeight()));
-  ScrollTo(0);
+  top_ = 0;
+  if (scrolled_ != 0) ScrollTo(0);
   // What is made is filled anew, and what is too much goes.
   std::map<std::int64_t, Row> old = std::exchange(made_, {});
   std::int64_t row = 0;
