@@ -10,17 +10,21 @@
 
 namespace toolkit::qt {
 
+/// Calls the work with what was told, or without it where it takes nothing.
+template <class Work, class... Told>
+void Call(const Work& work, const Told&... told) {
+  if constexpr (std::is_invocable_v<const Work&, const Told&...>) {
+    work(told...);
+  } else {
+    work();
+  }
+}
+
 /// Calls the work for each signal, as an event of ours: with what the signal tells, or without it.
 template <class Sender, class Signal, class Work>
 void Connect(Sender* sender, Signal signal, QObject* context, Work work) {
   QObject::connect(sender, signal, context, [work = std::move(work)](const auto&... told) {
-    framework::_RunEvent([&] {
-      if constexpr (std::is_invocable_v<const Work&, decltype(told)...>) {
-        work(told...);
-      } else {
-        work();
-      }
-    });
+    framework::_RunEvent([&] { Call(work, told...); });
   });
 }
 
