@@ -69,7 +69,7 @@
   function fit() {
     const root = document.documentElement;
     const wide = matchMedia('(min-width: 700px)').matches;
-    root.style.setProperty('--page', wide ? 10000 : root.clientWidth);
+    root.style.setProperty('--page', wide ? 10000 : root.offsetWidth);
   }
 
   // A browser may know WebAssembly and yet let no page run it that has a policy like ours.
