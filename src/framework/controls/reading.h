@@ -26,7 +26,7 @@ std::vector<Ref<RectControl>> _TabOrder(const Window& window);
 /// step of -1: where the arrow keys go. Nil at the end of the set, and for a control of no set.
 Ref<RectControl> _NextInSet(const RectControl& control, int step);
 
-/// How many rows each visible list has, behind its title, from the top:
+/// How many rows each visible list has, behind its title, in the tab order:
 /// "Exact Match 1, Containing All Notes 42". A list without a title is left out; empty when none is
 /// left.
 String _Tally(const Window& window);
