@@ -3,36 +3,52 @@
 
 usage: tools/mutate.py [--at-most N] [PATH...]
 
-Takes each source under the PATHs (by default all of src/ that a desktop builds), turns one
-comparison, bound, sign, constant or truth value over or leaves a call out, builds the tests that are
-to notice, and runs them. It works on a copy in build/mutants. --at-most N takes N mistakes of each
-file, evenly spread. Prints each mistake that no test noticed, and for each folder the share that they
-did. The status is 0 when that is 95 % or more in every folder.
+Takes each source under the PATHs (by default all of src/), turns one comparison, bound, sign, constant
+or truth value over or leaves a call out, builds the tests that are to notice, and runs them. It works
+on a copy in build/mutants. --at-most N takes N mistakes of each file, evenly spread. Prints each
+mistake that no test noticed, and for each folder the share that they did. The status is 0 when that is
+95 % or more in every folder. What it needs is what .ci/run installs.
 """
 import collections
 import os
 import pathlib
 import re
+import shlex
 import subprocess
 import sys
 
-# Which test programs are to notice a mistake in a folder, the quickest first. A folder stands for
-# what lies below it.
+FRAMEWORK = ["tests/framework_test", "tests/program_test", "tests/out_of_memory_test"]
+PROGRAM = ["tests/program_test", "tests/out_of_memory_test"]
+CHECKER = ["tests/check/check_test", "ctest -R ^checker"]
+# The program on a real screen, a bus, a compositor: what no test program has.
+STARTED = ["ctest -R ^(on_a_real|following|with_little)"]
+SYSTEM = "../tree/tests/system/"
+ON_THE_DESKTOP = STARTED + [
+    SYSTEM + "orca_test.sh orrel-pitchsieve", SYSTEM + "accessibility_test.sh orrel-pitchsieve",
+    SYSTEM + "wayland_test.sh orrel-pitchsieve",
+    SYSTEM + "platform_theme_test.sh orrel-pitchsieve tests/settings_portal"]
+STARTED_TARGETS = ["orrel-pitchsieve", "orrel-check-library", "settings_portal", "refuse_memory"]
+PAGE = ["ctest -R page_behaviour|page_layout|page_rows|page_library", "ctest -R page_sealed|page_acc"]
+
+# The tests that are to notice a mistake in a folder, which stands for what lies below it: the targets
+# to build, and the commands to run in the build's folder, the quickest first.
 NOTICED_BY = {
-    "src/framework": ["framework_test", "program_test", "out_of_memory_test"],
-    "src/pitch": ["pitch_test", "program_test"],
-    "src/library": ["program_test"],
-    "src/matching": ["program_test"],
-    "src/menu": ["program_test"],
-    "src/window": ["program_test"],
-    "src/shell": ["program_test"],
-    "src/check": ["check_test", "orrel-check-library"],
-    "src/toolkit/memory": ["program_test"],
-    "src/toolkit/qt": ["qt_test"],
+    "src/framework": (["framework_test", "program_test", "out_of_memory_test"], FRAMEWORK),
+    "src/pitch": (["pitch_test", "program_test"], ["tests/pitch_test", "tests/program_test"]),
+    "src/library": (["program_test"], PROGRAM[:1]),
+    "src/matching": (["program_test"], PROGRAM[:1]),
+    "src/menu": (["program_test"], PROGRAM[:1]),
+    "src/window": (["program_test"], PROGRAM[:1] + ["ctest -R ^row_"]),
+    "src/shell": (["program_test", "out_of_memory_test", *STARTED_TARGETS], PROGRAM + STARTED),
+    "src/check": (["check_test", "orrel-check-library"], CHECKER),
+    "src/toolkit/memory": (["program_test"], PROGRAM[:1]),
+    "src/toolkit/qt": (["qt_test", *STARTED_TARGETS], ["tests/qt_test"] + ON_THE_DESKTOP),
+    "src/toolkit/web": (["page-file"], PAGE),
+    "src/page": (["page-file"], PAGE),
+    "src/main.cpp": (STARTED_TARGETS, STARTED),
 }
-# Those of ctest's tests that are no test program, by the folder whose mistakes they are to notice.
-CTESTS = {"src/window": "^row_", "src/check": "^checker"}
-SECONDS = 60  # a mistake that makes a test run longer is noticed
+OF_THE_PAGE = ["src/toolkit/web", "src/page"]
+SECONDS = 60  # a mistake that makes a test program run longer is noticed
 WANTED = 95
 
 # What is written around blanks is an operator here, as the format has it; the rest is of templates.
@@ -95,25 +111,55 @@ def copy(root, tree):
 class Tests:
     """The tests that are to notice a mistake in one folder of the copy."""
 
-    def __init__(self, folder, build):
-        self.programs = NOTICED_BY[folder]
-        self.ctest = CTESTS.get(folder)
-        self.build = build
+    def __init__(self, folder, mutants):
+        self.targets, self.commands = NOTICED_BY[folder]
+        self.build = mutants / ("page" if folder in OF_THE_PAGE else "build")
 
     def built(self):
-        return passes(["cmake", "--build", self.build, "-j2", "--target", *self.programs])
+        return passes(["cmake", "--build", self.build, "-j2", "--target", *self.targets])
 
     def passed(self):
+        return all(self.pass_with(command) for command in self.commands)
+
+    def pass_with(self, command):
+        if not command.startswith("tests/"):
+            return passes(shlex.split(command), cwd=self.build)
         quiet = dict(os.environ, QT_QPA_PLATFORM="offscreen",
                      DBUS_SESSION_BUS_ADDRESS="disabled:")
-        return all(passes([self.build / "tests" / program, "--gtest_fail_fast"], timeout=SECONDS,
-                          env=quiet)
-                   for program in self.programs if program.endswith("_test")) and (
-            self.ctest is None or passes(["ctest", "--test-dir", self.build, "-R", self.ctest]))
+        return passes([self.build / command, "--gtest_fail_fast"], timeout=SECONDS, env=quiet)
 
 
-def folder_of(source):
-    return next((folder for folder in NOTICED_BY if f"{source}/".startswith(f"{folder}/")), None)
+def configure(mutants):
+    options = ["-DPITCHSIEVE_TESTS=ON", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0"]
+    subprocess.run(["cmake", "-S", mutants / "tree", "-B", mutants / "build", *options], check=True,
+                   stdout=subprocess.DEVNULL)
+
+
+def configure_page(root, mutants):
+    """The page's copy: what drives the browsers is taken from where ./test --web has put it."""
+    drivers = mutants / "tree/tests/web/node_modules"
+    if not drivers.exists():
+        drivers.symlink_to(root / "tests/web/node_modules")
+    subprocess.run(["cmake", "--preset", "web", "-S", mutants / "tree", "-B", mutants / "page"],
+                   cwd=mutants / "tree", check=True, stdout=subprocess.DEVNULL)
+
+
+def folder_of(place):
+    return next((folder for folder in NOTICED_BY if f"{place}/".startswith(f"{folder}/")), None)
+
+
+def sources_under(paths, tree):
+    """Yields the C++ sources, relative to the copy."""
+    for path in paths:
+        for source in sorted((tree / path).rglob("*")) if (tree / path).is_dir() else [tree / path]:
+            if source.suffix in (".h", ".cpp"):
+                yield source.relative_to(tree)
+
+
+def sample(mistakes, most):
+    if most is None or len(mistakes) <= most:
+        return mistakes
+    return [mistakes[i * len(mistakes) // most] for i in range(most)]
 
 
 def main():
@@ -123,44 +169,40 @@ def main():
         most = int(arguments[1])
         arguments = arguments[2:]
     root = pathlib.Path(__file__).resolve().parent.parent
-    tree = root / "build/mutants/tree"
-    build = root / "build/mutants/build"
+    mutants = root / "build/mutants"
+    tree = mutants / "tree"
     tree.mkdir(parents=True, exist_ok=True)
     copy(root, tree)
-    subprocess.run(["cmake", "-S", tree, "-B", build, "-DPITCHSIEVE_TESTS=ON",
-                    "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0"], check=True,
-                   stdout=subprocess.DEVNULL)
+    configure(mutants)
+    sources = list(sources_under(arguments or ["src"], tree))
+    if any(folder_of(place) in OF_THE_PAGE for place in sources):
+        configure_page(root, mutants)
 
+    tests = {}
     caught = collections.Counter()
     survived = collections.Counter()
     unbuilt = 0
-    for path in arguments or NOTICED_BY:
-        sources = sorted((tree / path).rglob("*")) if (tree / path).is_dir() else [tree / path]
-        for source in sources:
-            place = source.relative_to(tree)
-            folder = folder_of(place)
-            if source.suffix not in (".h", ".cpp") or folder is None:
-                continue
-            tests = Tests(folder, build)
-            if not tests.built() or not tests.passed():
+    for place in sources:
+        folder = folder_of(place)
+        if folder not in tests:
+            tests[folder] = Tests(folder, mutants)
+            if not tests[folder].built() or not tests[folder].passed():
                 sys.exit(f"The tests of {folder} do not pass as it stands.")
-            right = source.read_text()
-            mutants = list(mutants_of(right))
-            if most and len(mutants) > most:
-                mutants = [mutants[i * len(mutants) // most] for i in range(most)]
-            for number, old, new in mutants:
-                lines = right.splitlines(keepends=True)
-                lines[number - 1] = new + "\n"
-                source.write_text("".join(lines))
-                if not tests.built():
-                    unbuilt += 1
-                elif tests.passed():
-                    survived[place.parent] += 1
-                    print(f"{place}:{number}\n  {old.strip()}\n  {new.strip()}", flush=True)
-                else:
-                    caught[place.parent] += 1
-            source.write_text(right)
-            print(f"{place}: {len(mutants)} mistakes", flush=True)
+        right = (tree / place).read_text()
+        chosen = sample(list(mutants_of(right)), most)
+        for number, old, new in chosen:
+            lines = right.splitlines(keepends=True)
+            lines[number - 1] = new + "\n"
+            (tree / place).write_text("".join(lines))
+            if not tests[folder].built():
+                unbuilt += 1
+            elif tests[folder].passed():
+                survived[place.parent] += 1
+                print(f"{place}:{number}\n  {old.strip()}\n  {new.strip()}", flush=True)
+            else:
+                caught[place.parent] += 1
+        (tree / place).write_text(right)
+        print(f"{place}: {len(chosen)} mistakes", flush=True)
 
     shares = {folder: 100 * caught[folder] / (caught[folder] + survived[folder])
               for folder in sorted({*caught, *survived})}
