@@ -13,7 +13,6 @@ CheckBoxPeer::CheckBoxPeer(const Ref<CheckBox>& box, const Element& content)
       box_(box),
       input_(Outer(), "input"),
       caption_(Outer(), "span") {
-  Outer().Attribute("class", "box");
   input_.Attribute("type", "checkbox");
   input_.Attribute("autocomplete", "off");  // or a browser would tick it as at an earlier visit
   input_.On("change", [this] {

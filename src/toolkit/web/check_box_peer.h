@@ -11,6 +11,7 @@ class CheckBoxPeer final : public ControlPeer {
   CheckBoxPeer(const framework::Ref<framework::CheckBox>& box, const Element& content);
 
  protected:
+  const char* Class() const override { return "box"; }
   void Show(framework::Change what) override;
   Element& Active() override { return input_; }
   void Title(const std::string&) override {}

@@ -50,10 +50,7 @@ void ControlPeer::Remark(const std::string& remark) {
 }
 
 void ControlPeer::Place() {
-  element_.Pixels("left", control_->Left());
-  element_.Pixels("top", control_->Top());
-  element_.Pixels("width", control_->Width());
-  element_.Pixels("height", control_->Height());
+  element_.Place(control_->Left(), control_->Top(), control_->Width(), control_->Height());
 }
 
 void ControlPeer::Look() {
@@ -62,9 +59,11 @@ void ControlPeer::Look() {
   Active().Set("disabled", control_->Enabled() ? 0 : 1);
   if (control_->TextSize() > 0)
     element_.Pixels("font-size", static_cast<std::int64_t>(control_->TextSize()));
-  element_.Style("font-weight", control_->Bold() ? "bold" : "");
-  element_.Style("font-style", control_->Italic() ? "italic" : "");
-  element_.Style("text-decoration", control_->Underline() ? "underline" : "");
+  std::string classes = Class();
+  if (control_->Bold()) classes += " bold";
+  if (control_->Italic()) classes += " italic";
+  if (control_->Underline()) classes += " underlined";
+  element_.Attribute("class", classes);
 }
 
 void ControlPeer::Describe() {

@@ -40,6 +40,8 @@ class ControlPeer : public framework::Peer {
  protected:
   /// Shows what is special to the kind of control; called for each change, and at first.
   virtual void Show(framework::Change what) = 0;
+  /// The class that the style sheet knows the kind of control by.
+  virtual const char* Class() const = 0;
   /// What the user works with: the element at the frame, unless that only holds it.
   virtual Element& Active() { return element_; }
 

@@ -17,6 +17,7 @@ void page_Text(int element, const char* text, std::size_t size);
 void page_Attribute(int element, const char* name, const char* text, std::size_t size);
 void page_NoAttribute(int element, const char* name);
 void page_Style(int element, const char* name, const char* text, std::size_t size);
+void page_Place(int element, double left, double top, double width, double height);
 void page_Set(int element, const char* property, double value);
 double page_Get(int element, const char* property);
 void page_Focus(int element);

@@ -59,6 +59,12 @@ mergeInto(LibraryManager.library, {
   page_Style: function (number, name, bytes, size) {
     at(number).style.setProperty(UTF8ToString(name), text(bytes, size));
   },
+  page_Place__deps: ['$at'],
+  page_Place: function (number, left, top, width, height) {
+    Object.assign(at(number).style, {
+      left: left + 'px', top: top + 'px', width: width + 'px', height: height + 'px',
+    });
+  },
   page_Set__deps: ['$at'],
   page_Set: function (number, name, value) { at(number)[UTF8ToString(name)] = value; },
   page_Get__deps: ['$at'],

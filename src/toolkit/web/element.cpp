@@ -47,6 +47,11 @@ void Element::Pixels(const char* style, std::int64_t value) {
   Style(style, std::to_string(value) + "px");
 }
 
+void Element::Place(std::int64_t left, std::int64_t top, std::int64_t width, std::int64_t height) {
+  page_Place(number_, static_cast<double>(left), static_cast<double>(top),
+             static_cast<double>(width), static_cast<double>(height));
+}
+
 void Element::Set(const char* property, double value) { page_Set(number_, property, value); }
 
 double Element::Get(const char* property) const { return page_Get(number_, property); }

@@ -29,6 +29,8 @@ class Element {
   void AttributeOrNone(const char* name, std::string_view value);
   void Style(const char* name, std::string_view value);
   void Pixels(const char* style, std::int64_t value);
+  /// Puts it at a frame, in pixels.
+  void Place(std::int64_t left, std::int64_t top, std::int64_t width, std::int64_t height);
   /// A property of the element's object that is a number, or true or false.
   void Set(const char* property, double value);
   double Get(const char* property) const;

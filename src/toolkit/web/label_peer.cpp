@@ -5,9 +5,7 @@ namespace toolkit::web {
 using namespace framework;
 
 LabelPeer::LabelPeer(const Ref<Label>& label, const Element& content)
-    : ControlPeer(label, content, "span"), label_(label) {
-  Outer().Attribute("class", "label");
-}
+    : ControlPeer(label, content, "span"), label_(label) {}
 
 void LabelPeer::RemarkOn(ControlPeer& other) {
   remarks_on_ = &other;
@@ -20,6 +18,10 @@ void LabelPeer::TellRemark() {
   remarks_on_->Remark(label_->Visible() ? std::string(spoken) : std::string());
 }
 
+const char* LabelPeer::Class() const {
+  return label_->TextAlign() == Label::kCentre ? "label centred" : "label";
+}
+
 void LabelPeer::Show(Change what) {
   if (what == Change::Visible || what == Change::Text) TellRemark();
   if (what == Change::Text) {
@@ -29,8 +31,6 @@ void LabelPeer::Show(Change what) {
     Outer().AttributeOrNone("aria-label", label_->_Spoken());
   }
   if (what != Change::Look) return;
-  const bool centred = label_->TextAlign() == Label::kCentre;
-  Outer().Attribute("class", centred ? "label centred" : "label");
   const Color color = label_->TextColor();
   if (Same(color, Color{})) return Outer().Style("color", "");
   Outer().Style("color", "rgb(" + std::to_string(color.first) + "," + std::to_string(color.green) +

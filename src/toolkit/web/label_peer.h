@@ -15,6 +15,7 @@ class LabelPeer final : public ControlPeer {
   void RemarkOn(ControlPeer& other);
 
  protected:
+  const char* Class() const override;
   void Show(framework::Change what) override;
 
  private:

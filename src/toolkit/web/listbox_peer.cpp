@@ -50,7 +50,6 @@ ListboxPeer::ListboxPeer(const Ref<Listbox>& list, const Element& content)
         constexpr std::size_t kMost = 1000;
         return list_->Cell(row, column).View().substr(0, kMost);
       }) {
-  Outer().Attribute("class", "list");
   Outer().Attribute("role", "grid");
   Outer().Attribute("tabindex", "0");
   Outer().On("mousedown", [this] { pressed_ = event::Row(); });

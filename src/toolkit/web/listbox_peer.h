@@ -14,6 +14,7 @@ class ListboxPeer final : public ControlPeer {
   bool Refresh() override;
 
  protected:
+  const char* Class() const override { return "list"; }
   void Show(framework::Change what) override;
 
  private:

@@ -13,6 +13,7 @@ class PopupMenuPeer final : public ControlPeer {
   PopupMenuPeer(const framework::Ref<framework::PopupMenu>& menu, const Element& content);
 
  protected:
+  const char* Class() const override { return "menu"; }
   void Show(framework::Change what) override;
 
  private:
