@@ -25,11 +25,12 @@ template, style, starter, glue, code, scales, page = sys.argv[1:]
 style = read(style)
 with open(code, 'rb') as file:
     code = base64.b64encode(file.read()).decode()
-script = read(glue) + read(starter).replace('@CODE@', code)
+script = read(glue) + read(starter)
 assert not re.search('<(!--|/?script)', script, re.I), 'the script cannot stand in a page'
 policy = "default-src 'none'; style-src %s; script-src %s 'wasm-unsafe-eval'" % (
     digest(style), digest(script))
-parts = {'POLICY': policy, 'STYLE': style, 'SCRIPT': script, 'LIBRARY': library(read(scales))}
+parts = {'POLICY': policy, 'STYLE': style, 'CODE': code, 'SCRIPT': script,
+         'LIBRARY': library(read(scales))}
 text = re.sub('@([A-Z]+)@', lambda found: parts[found[1]], read(template))
 with open(page, 'w', encoding='utf-8', newline='') as file:
     file.write(text)

@@ -3,11 +3,11 @@
 (function () {
   'use strict';
   const at = id => document.getElementById(id);
-  const code = decoded('@CODE@');
+  const code = decoded(at('code').textContent);
   let run = new AbortController();
 
-  // Nothing is painted before the code is there. Where the browser cannot decode by itself, a plain
-  // loop does: Uint8Array.from takes ten times as long.
+  // Where the browser cannot decode by itself, a plain loop does: Uint8Array.from takes ten times as
+  // long.
   function decoded(text) {
     if (Uint8Array.fromBase64) return Uint8Array.fromBase64(text);
     const bytes = atob(text);
@@ -84,6 +84,7 @@
   at('sorry').className = '';
   if (!runsCode()) return;
   at('sorry').hidden = true;
+  at('offer').hidden = false;
   addEventListener('resize', fit);
   at('own').addEventListener('change', e => {
     open(e.target.files[0]);

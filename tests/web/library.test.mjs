@@ -130,8 +130,11 @@ testIn('Chromium', 'a library is chosen by the keyboard, and again once it is me
 
 testIn('Chromium', 'a browser that cannot run the program gets a sentence', async (hand) => {
   const { puppet } = hand.page;
-  const said = () => eventually(async () => (
-    assert.match(await puppet.$eval('body', (body) => body.innerText), /WebAssembly/)));
+  const said = () => eventually(async () => {
+    const text = await puppet.$eval('body', (body) => body.innerText);
+    assert.match(text, /WebAssembly/);
+    assert.doesNotMatch(text, /Open a library/);
+  });
   await hand.page.open(addressOf(html.replace(" 'wasm-unsafe-eval'", '')));  // as an older one has it
   await said();
   await puppet.evaluateOnNewDocument(() => { delete globalThis.WebAssembly; });
