@@ -19,16 +19,16 @@ import sys
 
 FRAMEWORK = ["tests/framework_test", "tests/program_test", "tests/out_of_memory_test"]
 PROGRAM = ["tests/program_test", "tests/out_of_memory_test"]
-CHECKER = ["tests/check/check_test", "ctest -R ^checker"]
+CHECKER = ["tests/check/check_test", "ctest --stop-on-failure -R ^checker"]
 # The program on a real screen, a bus, a compositor: what no test program has.
-STARTED = ["ctest -R ^(on_a_real|following|with_little)"]
+STARTED = ["ctest --stop-on-failure -R ^(on_a_real|following|with_little)"]
 SYSTEM = "../tree/tests/system/"
 ON_THE_DESKTOP = STARTED + [
     SYSTEM + "orca_test.sh orrel-pitchsieve", SYSTEM + "accessibility_test.sh orrel-pitchsieve",
     SYSTEM + "wayland_test.sh orrel-pitchsieve",
     SYSTEM + "platform_theme_test.sh orrel-pitchsieve tests/settings_portal"]
 STARTED_TARGETS = ["orrel-pitchsieve", "orrel-check-library", "settings_portal", "refuse_memory"]
-PAGE = ["ctest -R page_behaviour|page_layout|page_rows|page_library", "ctest -R page_sealed|page_acc"]
+PAGE = ["ctest --stop-on-failure -R page_layout", "ctest --stop-on-failure -E page_monkey"]
 
 # The tests that are to notice a mistake in a folder, which stands for what lies below it: the targets
 # to build, and the commands to run in the build's folder, the quickest first.
@@ -38,7 +38,7 @@ NOTICED_BY = {
     "src/library": (["program_test"], PROGRAM[:1]),
     "src/matching": (["program_test"], PROGRAM[:1]),
     "src/menu": (["program_test"], PROGRAM[:1]),
-    "src/window": (["program_test"], PROGRAM[:1] + ["ctest -R ^row_"]),
+    "src/window": (["program_test"], PROGRAM[:1] + ["ctest --stop-on-failure -R ^row_"]),
     "src/shell": (["program_test", "out_of_memory_test", *STARTED_TARGETS], PROGRAM + STARTED),
     "src/check": (["check_test", "orrel-check-library"], CHECKER),
     "src/toolkit/memory": (["program_test"], PROGRAM[:1]),
