@@ -5,6 +5,7 @@
   const at = id => document.getElementById(id);
   const code = decoded(at('code').textContent);
   let run = new AbortController();
+  let started = Promise.resolve();
 
   // Where the browser cannot decode by itself, a plain loop does: Uint8Array.from takes ten times as
   // long.
@@ -62,7 +63,8 @@
     } catch (failure) {
       return report(file.name, 'This file cannot be read.');
     }
-    await start(new Uint8Array(bytes), file.name);
+    // One after the other, or what two checks find would stand in one report.
+    started = started.then(() => start(new Uint8Array(bytes), file.name));
   }
 
   // To ask for the width has the page laid out, so a page that is wide enough is not asked.
@@ -96,6 +98,6 @@
 
   // In a script element, a few texts cannot stand as they are: a backslash stands in them.
   const library = at('library');
-  start(library && new TextEncoder().encode(
+  started = start(library && new TextEncoder().encode(
       library.textContent.replace(/<\\(\\*(?:!--|\/?script))/gi, '<$1')), '');
 })();

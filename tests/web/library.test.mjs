@@ -98,6 +98,24 @@ testInEach('a dropped library opens anew, and is not kept', async (hand, t) => {
   await eventually(async () => assert.ok((await hand.look()).lbContaining.count > 600));
 });
 
+testIn('Chromium', 'of two libraries dropped at once the last one stays', async (hand) => {
+  await hand.open(pageOn(fourScales));
+  await hand.page.run((texts) => {
+    for (const [i, text] of texts.entries()) {
+      const dataTransfer = new DataTransfer();
+      dataTransfer.items.add(new File([text], `library ${i}`));
+      document.body.dispatchEvent(new DragEvent('drop', { dataTransfer, bubbles: true }));
+    }
+  }, [library(major, 'Bank,short', 'Bank,shorter'), library(triad, 'Bank,too short')]);
+  await eventually(async () => {
+    assert.match(await hand.page.run(report), /^library 1\n/);
+    await hand.look();
+    assert.equal(await hand.page.run(() => document.querySelectorAll('#report li').length), 1);
+  });
+  await hand.tick(0);
+  await expectRows(hand, 'Bank|Triad|C');
+});
+
 testIn('Chromium', 'a library is chosen by the keyboard, and again once it is mended', async (hand) => {
   await hand.open(pageOn(fourScales));
   const { puppet } = hand.page;
