@@ -140,6 +140,7 @@ def configure_page(root, mutants):
     drivers = mutants / "tree/tests/web/node_modules"
     if not drivers.exists():
         drivers.symlink_to(root / "tests/web/node_modules")
+    os.environ["NODE_PATH"] = "/usr/share/nodejs"  # as the preset has it
     subprocess.run(["cmake", "--preset", "web", "-S", mutants / "tree", "-B", mutants / "page"],
                    cwd=mutants / "tree", check=True, stdout=subprocess.DEVNULL)
 
