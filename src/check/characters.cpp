@@ -9,14 +9,14 @@ namespace {
 constexpr std::int64_t kLongestQuote = 40;  // in characters
 
 struct Lead {
-  std::size_t size;           ///< of the character, in bytes; 0 for a byte that begins none
-  unsigned char second_low;   ///< the second byte's range, narrower than 80 to BF where
-  unsigned char second_high;  ///< the wider one would let in what is no character
+  std::size_t size;             ///< of the character, in bytes; 0 for a byte that begins none
+  unsigned char second_low{};   ///< the second byte's range, if there is one: narrower than 80 to
+  unsigned char second_high{};  ///< BF where the wider one would let in what is no character
 };
 
 constexpr Lead LeadOf(unsigned char byte) {
-  if (byte < 0x80) return {1, 0, 0};
-  if (byte < 0xC2) return {0, 0, 0};
+  if (byte < 0x80) return {1};
+  if (byte < 0xC2) return {0};
   if (byte < 0xE0) return {2, 0x80, 0xBF};
   if (byte == 0xE0) return {3, 0xA0, 0xBF};
   if (byte == 0xED) return {3, 0x80, 0x9F};
@@ -24,7 +24,7 @@ constexpr Lead LeadOf(unsigned char byte) {
   if (byte == 0xF0) return {4, 0x90, 0xBF};
   if (byte < 0xF4) return {4, 0x80, 0xBF};
   if (byte == 0xF4) return {4, 0x80, 0x8F};
-  return {0, 0, 0};
+  return {0};
 }
 
 /// The controls of ASCII and of the page behind it, and the no-break space at that page's end.

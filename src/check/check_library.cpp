@@ -29,7 +29,7 @@ class Tally {
   void TellRest() const {
     for (const auto& [kind, rest] : rests_) {
       if (rest.count <= kToldOfAKind) continue;
-      report_({Kind::kRest, rest.severity, 0, 0,
+      report_({Kind::kRest, rest.severity,
                std::to_string(rest.count - kToldOfAKind) + " more " + std::string(Words(kind)),
                ""});
     }

@@ -89,7 +89,7 @@ void CheckName(const Line& line, std::int64_t field, const std::string& what, Fa
 /// True for the usual cause of surplus fields, a comma in what was meant as one name: the twelve
 /// notes are the line's last fields, and not where they should be.
 bool HasCommaInName(const Line& line, std::int64_t surplus) {
-  return surplus > 0 && !IsFlag(line.cells[kFirstNote]) && line.NotesBeginAt(kFirstNote + surplus);
+  return !IsFlag(line.cells[kFirstNote]) && line.NotesBeginAt(kFirstNote + surplus);
 }
 
 void CheckNotes(const Line& line, Faults& faults) {
@@ -129,7 +129,7 @@ bool Line::NotesBeginAt(std::int64_t first) const {
 Fault Line::At(std::size_t offset, Kind kind, Severity severity, std::string found,
                std::string expected) const {
   const std::int64_t column = CountCharacters(text.View().substr(0, offset)) + 1;
-  return {kind, severity, number, column, std::move(found), std::move(expected)};
+  return {kind, severity, std::move(found), std::move(expected), number, column};
 }
 
 std::vector<Fault> CheckLine(const Line& line) {

@@ -37,10 +37,10 @@ enum class Kind {
 struct Fault {
   Kind kind;
   Severity severity;
-  std::int64_t line;     ///< from 1; 0 for what is said of the whole file
-  std::int64_t column;   ///< in characters from 1; one past the last where something is missing
-  std::string found;     ///< "3 fields"
-  std::string expected;  ///< "14"; empty where nothing else is wanted
+  std::string found;      ///< "3 fields"
+  std::string expected;   ///< "14"; empty where nothing else is wanted
+  std::int64_t line{};    ///< from 1; 0 for what is said of the whole file
+  std::int64_t column{};  ///< in characters from 1; one past the last where something is missing
 };
 
 /// "error", "warning", "remark".

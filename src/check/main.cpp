@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstdio>
 
 #include "check/run.h"
@@ -9,5 +10,6 @@ int main(int argc, char** argv) {
   const auto print_to = [](std::FILE* file) {
     return [file](std::string_view text) { std::fwrite(text.data(), 1, text.size(), file); };
   };
-  return check::Run(arguments.subspan(argc > 0 ? 1 : 0), print_to(stdout), print_to(stderr));
+  return check::Run(arguments.subspan(std::min<std::size_t>(arguments.size(), 1)), print_to(stdout),
+                    print_to(stderr));
 }

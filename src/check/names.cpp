@@ -24,20 +24,20 @@ std::string OnLine(std::int64_t line) { return " on line " + std::to_string(line
 std::vector<Fault> Names::Add(const Line& line) {
   pitch::TScale scale;
   scale.Constructor(line.cells);
-  const std::string_view name = scale.Scale();
   const std::string bank(scale.Bank().View());
   banks_.insert(Folded(bank));
 
   std::vector<Fault> faults;
-  for (std::size_t at = 0; at <= name.size();) {
-    const std::size_t end = std::min(name.find(kBetweenNames, at), name.size());
-    const First here{line.number, bank, std::string(name.substr(at, end - at)), scale.Notes()};
-    for (Fault& fault : AddName(line, at, here)) faults.push_back(std::move(fault));
-    at = end + kBetweenNames.size();
+  const auto each_name = framework::Split(scale.Scale(), kBetweenNames);
+  std::size_t offset = 0;
+  for (const std::string_view each : each_name._Items()) {
+    const First here{line.number, bank, std::string(each), scale.Notes()};
+    for (Fault& fault : AddName(line, offset, here)) faults.push_back(std::move(fault));
+    offset += each.size() + kBetweenNames.size();
   }
   if (!faults.empty() || !line.NotesBeginAt(kFirstNote)) return faults;
 
-  const First here{line.number, bank, std::string(name), scale.Notes()};
+  const First here{line.number, bank, std::string(scale.Scale()), scale.Notes()};
   const std::string notes = Folded(bank) + "," + std::to_string(scale.Notes());
   if (const First& first = notes_.try_emplace(notes, here).first->second; first.line != here.line) {
     faults.push_back(line.At(line.Start(1), Kind::kNotesAgain, Severity::kRemark,

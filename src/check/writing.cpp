@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 #include <optional>
+#include <set>
 #include <utility>
 
 #include "check/characters.h"
@@ -37,13 +38,11 @@ std::int64_t CountFields(std::string_view line, char separator) {
 /// The letters of TRUE and FALSE, the commas and the line ends alone make a third of the bytes
 /// zero.
 bool IsUtf16(const Lines& lines) {
-  std::int64_t bytes = 0;
-  std::int64_t zeros = 0;
+  std::int64_t beyond_a_third = 0;
   for (const std::string_view line : lines) {
-    bytes += static_cast<std::int64_t>(line.size());
-    zeros += std::count(line.begin(), line.end(), '\0');
+    beyond_a_third += std::count(line.begin(), line.end(), '\0') * 3 - std::ssize(line);
   }
-  return zeros * 3 > bytes;
+  return beyond_a_third > 0;
 }
 
 /// True when one of the first two lines has fields for two, and no line follows.
@@ -80,21 +79,20 @@ bool IsQuoted(const std::vector<Fields>& scales) {
 
 /// How often a text stands for a note.
 struct Use {
-  std::int64_t scales = 0;
-  std::int64_t roots = 0;
+  std::int64_t scales{};
+  std::int64_t roots{};
 };
 
 std::vector<Writing::Word> WordsOf(const std::vector<Fields>& scales) {
   std::map<std::string, Use> uses;
   for (const Fields& fields : scales) {
-    std::map<std::string, Use> here;
-    for (std::int64_t i = kFields - 1; i >= kFirstNote; --i) {
-      if (IsFlag(fields[i])) continue;
-      here[std::string(fields[i].View())] = {1, i == kFirstNote ? 1 : 0};
+    std::set<std::string> here;
+    for (std::int64_t i = kFirstNote; i < kFields; ++i) {
+      if (!IsFlag(fields[i])) here.emplace(fields[i].View());
     }
-    for (const auto& [text, use] : here) {
-      uses[text].scales += use.scales;
-      uses[text].roots += use.roots;
+    for (const std::string& text : here) {
+      ++uses[text].scales;
+      if (fields[kFirstNote].View() == text) ++uses[text].roots;
     }
   }
   std::vector<std::pair<std::string, Use>> words;
@@ -123,7 +121,7 @@ Fault WordsFault(const std::vector<Writing::Word>& words) {
     found += joint + Named(word);
     expected += joint + Named(word) + " by " + std::string(word.meaning);
   }
-  return {Kind::kWholeFile, Severity::kWarning, 0, 0, found + " for the notes", expected};
+  return {Kind::kWholeFile, Severity::kWarning, found + " for the notes", expected};
 }
 
 }  // namespace
@@ -174,7 +172,7 @@ Writing WritingOf(const Lines& lines) {
 std::vector<Fault> CheckWriting(const Lines& lines, const Writing& writing) {
   std::vector<Fault> faults;
   const auto add = [&](Severity severity, const char* found, const char* expected) {
-    faults.push_back({Kind::kWholeFile, severity, 0, 0, found, expected});
+    faults.push_back({Kind::kWholeFile, severity, found, expected});
   };
   if (writing.is_utf16) {
     const bool loads = std::all_of(
