@@ -1,6 +1,7 @@
 #include <thread>
 
 #include "framework/controls/reading.h"
+#include "framework/events/msg_box.h"
 #include "support/behaviour.h"
 #include "support/monkey.h"
 #include "toolkit/memory/memory_toolkit.h"
@@ -64,19 +65,35 @@ TEST_F(Handlers, OperationsOnTheUserInterfaceAreRefusedOffTheMainThread) {
   const auto quit = window_->FileQuit();
   const std::function<void()> operations[] = {
       [&] { window_->lbExact()->AddRow({"a"}); },
+      [&] { window_->lbExact()->AddRow(Array<String>()); },
       [&] { window_->lbExact()->Cell(0, 0); },
+      [&] { window_->lbExact()->Cell(0, 0, "a"); },
       [&] { window_->lbExact()->DeleteAllRows(); },
+      [&] { window_->lbExact()->ListIndex(); },
+      [&] { window_->lbExact()->LastIndex(); },
+      [&] { window_->cbScale(0)->Value(); },
       [&] { window_->cbScale(0)->Value(true); },
+      [&] { window_->cbScale(0)->Index(0); },
+      [&] { window_->cbScale(0)->Window(); },
+      [&] { window_->cbScale(0)->RectControl::Constructor(); },
       [&] { window_->cbScale(0)->Caption("a"); },
       [&] { window_->lbStar(0)->Text("a"); },
       [&] { window_->lbStar(0)->Visible(true); },
       [&] { window_->lbStar(0)->Parent(nullptr); },
       [&] { window_->pmRoot()->ListIndex(); },
+      [&] { window_->MenuBar(); },
       [&] { window_->MenuBar(nullptr); },
+      [&] { window_->_AddControl("a", nullptr); },
       [&] { window_->Constructor(); },
+      [&] { quit->Constructor(); },
       [&] { quit->Text("a"); },
       [&] { quit->Append(nullptr); },
+      [&] { quit->Child("a"); },
+      [&] { quit->_Lookup("a"); },
+      [&] { quit->_DisableEntirely(); },
+      [&] { quit->_SelfEnable(); },
       [&] { getAppObject()->MenuBar(nullptr); },
+      [&] { MsgBox("a"); },
   };
   std::thread([&] {
     for (const auto& operation : operations) {

@@ -69,7 +69,6 @@ void Control::_Raise(std::int64_t event) {
 }
 
 void RectControl::Constructor() {
-  _UITrap();
   if (const Ref<framework::Window> window = Window()) window->_Finish(Ref<RectControl>(this));
 }
 
@@ -87,7 +86,7 @@ void RectControl::InitialParent(const String& value) {
     return Parent(nullptr);
   }
   const auto dollar = text.find('$');
-  std::int64_t index = 0;
+  std::int64_t index{};
   const char* const end = text.data() + text.size();
   const char* const digits = dollar == text.npos ? end : text.data() + dollar + 1;
   const auto read = std::from_chars(digits, end, index);

@@ -35,7 +35,6 @@ Ref<MenuItem> MenuItem::Child(std::string_view name) const {
 }
 
 Ref<MenuItem> MenuItem::_Lookup(std::string_view name) const {
-  _UITrap();
   if (Ref<MenuItem> child = Child(name)) return child;
   for (const Ref<MenuItem>& child : children_._Items()) {
     if (Ref<MenuItem> found = child->_Lookup(name)) return found;
@@ -52,7 +51,6 @@ void MenuItem::_DisableEntirely() {
 }
 
 void MenuItem::_SelfEnable() {
-  _UITrap();
   if (AutoEnable() && (HandlesAction() || children_.LastIndex() >= 0)) Enabled(true);
   EnableMenu();
   // Not by range: a handler of the program's may add items.
