@@ -1,5 +1,6 @@
 #include <limits>
 
+#include "framework/events/timer.h"
 #include "framework/values/cast.h"
 #include "framework/values/text.h"
 #include "framework/values/weak_ref.h"
@@ -24,6 +25,15 @@ TEST_F(Values, AreKeptByReferencesAndNotByWeakOnes) {
   thing = nullptr;
   EXPECT_EQ(weak->Value(), object);
   object = nullptr;
+  EXPECT_FALSE(weak->Value());
+}
+
+TEST_F(Values, ThatATimerKeepsGoWithTheRun) {
+  auto thing = RuntimeNewObject<Thing>();
+  const Ref<WeakRef> weak = thing->self;
+  Timer::CallLater(0, [kept = std::exchange(thing, nullptr)] {});
+  EXPECT_TRUE(weak->Value());
+  RuntimePerformFinalizers();
   EXPECT_FALSE(weak->Value());
 }
 

@@ -34,11 +34,13 @@ TEST_F(StartUp, RunsFromEntryToExitInOrder) {
   });
   toolkit_.Post([this] { toolkit_.Log("never"); });
   EXPECT_EQ(shell::main(), 0);
+  toolkit_.Observe(nullptr);
   EXPECT_THAT(seen,
               testing::ElementsAre("initialise | sharp version app with menu",
                                    "show Orrel Pitchsieve | sharp version app with menu window",
                                    "run | sharp version app with menu window",
-                                   "quit | sharp version app with menu"));
+                                   "quit | sharp version app with menu",
+                                   "wait until read | sharp version app with menu"));
   EXPECT_EQ(Present(), " sharp") << "the finalizers ran";
 }
 
@@ -47,8 +49,9 @@ TEST_F(StartUp, AnyFailureBeforeTheRunReachesTheOutermostBlock) {
     if (line == "initialise") throw std::runtime_error("odd");
   });
   EXPECT_EQ(shell::main(), 1);
-  EXPECT_THAT(toolkit_.Lines(),
-              testing::ElementsAre("initialise", "failure std::runtime_error: odd"));
+  EXPECT_THAT(
+      toolkit_.Lines(),
+      testing::ElementsAre("initialise", "failure std::runtime_error: odd", "wait until read"));
   EXPECT_FALSE(getAppObject()) << "the finalizers ran all the same";
 }
 

@@ -100,6 +100,8 @@ void MemoryToolkit::ShowMessage(const String& text) { Log("message " + std::stri
 
 void MemoryToolkit::ReportFailure(std::string_view text) { Log("failure " + std::string(text)); }
 
+void MemoryToolkit::WaitUntilRead() { Log("wait until read"); }
+
 void MemoryToolkit::CallLater(std::int64_t, std::function<void()> work) { Post(std::move(work)); }
 
 void MemoryToolkit::Log(std::string line) {

@@ -19,6 +19,7 @@ class MemoryToolkit final : public framework::Toolkit {
   void Quit() override;
   void ShowMessage(const framework::String& text) override;
   void ReportFailure(std::string_view text) override;
+  void WaitUntilRead() override;
   void CallLater(std::int64_t delay_ms, std::function<void()> work) override;
 
   /// Puts something to do into the queue, behind what stands there; the delay of a CallLater is
