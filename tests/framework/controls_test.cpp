@@ -1,4 +1,5 @@
 #include "framework/controls/check_box.h"
+#include "framework/controls/label.h"
 #include "framework/controls/listbox.h"
 #include "framework/controls/window.h"
 #include "framework/events/timer.h"
@@ -8,6 +9,7 @@ namespace {
 
 using namespace framework;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 /// A window whose handlers note in the log that they were called.
@@ -27,11 +29,18 @@ class Controls : public support::Running {
   Controls() {
     box_->Name("box");
     box_->Index(3);
+    list_->Name("list");
     bench_->_AddControl("list", list_);
     bench_->_AddControl("box", box_);
     RuntimeAddEventHandler(list_, Listbox::kChange,
                            RuntimeCreateDelegate<&Bench::Changed>(bench_, "( Listbox )"));
     RuntimeAddEventHandler(box_, CheckBox::kAction, ticked_);
+  }
+
+  void Show() {
+    bench_->Visible(true);
+    bench_->Constructor();
+    toolkit_.ClearLog();
   }
 
   Ref<Bench> bench_ = RuntimeNewObject<Bench>(toolkit_);
@@ -41,26 +50,31 @@ class Controls : public support::Running {
 };
 
 TEST_F(Controls, TellThePeerOfARealChangeAlone) {
-  bench_->Visible(true);
-  bench_->Constructor();
-  toolkit_.ClearLog();
+  Show();
   for (const char* const caption : {"C", "C", "c"}) box_->Caption(caption);
   box_->Visible(false);
   box_->Value(true);
   box_->State(CheckedStates::Checked);
-  EXPECT_THAT(toolkit_.Lines(), ElementsAre("box(3).Caption", "box(3).Caption", "box(3).Value"));
+  for (const int columns : {1, 2, 1}) list_->ColumnCount(columns);
+  list_->AddRow({"a"});
+  for (const char* const text : {"a", "A", "A"}) list_->Cell(0, 0, text);
+  EXPECT_THAT(toolkit_.Lines(), ElementsAre("box(3).Caption", "box(3).Caption", "box(3).Value",
+                                            "list.Look", "list.Look", "list.Rows", "list.Rows"));
 }
 
 TEST_F(Controls, RaiseEventsForTheUserAndForAChosenRowThatGoes) {
+  Show();
   box_->Value(true);
   list_->AddRow({"a"});
   list_->DeleteAllRows();
-  EXPECT_THAT(toolkit_.Lines(), IsEmpty());
+  EXPECT_THAT(toolkit_.Lines(), ElementsAre("box(3).Value", "list.Rows", "list.Rows"));
+  toolkit_.ClearLog();
   box_->Toggle();
   list_->AddRow({"a"});
   for (int twice = 0; twice < 2; ++twice) list_->Select(0);
   for (int twice = 0; twice < 2; ++twice) list_->DeleteAllRows();
-  EXPECT_THAT(toolkit_.Lines(), ElementsAre("ticked", "changed", "changed"));
+  EXPECT_THAT(toolkit_.Lines(), ElementsAre("box(3).Value", "ticked", "list.Rows", "list.ListIndex",
+                                            "changed", "list.Rows", "list.ListIndex", "changed"));
 }
 
 TEST_F(Controls, GetTheirOpenOnceAlsoWhenTheWindowsOpenMakesThem) {
@@ -91,6 +105,8 @@ TEST_F(Controls, AreFoundByNameAndIndexAlsoAsParents) {
        {"box$4", "box", "box$", "$3", "box$3x", "list$-2147483648", "box$99999999999999999999"}) {
     EXPECT_THROW(list_->InitialParent(wrong), InvalidParentException) << wrong;
   }
+  list_->InitialParent("box$0");
+  EXPECT_EQ(list_->Parent(), first);
   first->InitialParent("box$3");
   EXPECT_THROW(first->InitialParent("box$0"), InvalidParentException) << "it is itself";
   EXPECT_THROW(box_->InitialParent("box$0"), InvalidParentException) << "it lies in the box";
@@ -103,14 +119,53 @@ struct Reluctant final : MenuItem {
   void EnableMenu() override { Enabled(false); }
 };
 
-TEST_F(Controls, OfAMenuHaveTheLastWordOnTheirEnabling) {
-  const auto title = RuntimeNewObject<MenuItem>();
-  const auto item = RuntimeNewObject<Reluctant>();
-  for (const Ref<MenuItem>& each : {title, Ref<MenuItem>(item)}) each->AutoEnable(true);
-  title->Append(item);
-  title->_SelfEnable();
-  EXPECT_TRUE(title->Enabled());
-  EXPECT_FALSE(item->Enabled());
+TEST_F(Controls, OfAMenuAreEnabledByRuleAndHaveTheLastWord) {
+  const auto bar = RuntimeNewObject<framework::MenuBar>();
+  const Ref<MenuItem> title = RuntimeNewObject<MenuItem>();
+  const Ref<MenuItem> reluctant = RuntimeNewObject<Reluctant>();
+  const Ref<MenuItem> idle = RuntimeNewObject<MenuItem>();
+  const Ref<MenuItem> quit = RuntimeNewObject<QuitMenuItem>();
+  const Ref<MenuItem> aside = RuntimeNewObject<QuitMenuItem>();
+  for (const auto& each : {title, reluctant, idle, quit}) each->AutoEnable(true);
+  bar->Append(title);
+  title->Append(reluctant);
+  for (const auto& each : {idle, quit, aside}) reluctant->Append(each);
+  const auto enabled = [&] {
+    std::string digits;
+    for (const auto& each : {Ref<MenuItem>(bar), title, reluctant, idle, quit, aside})
+      digits += each->Enabled() ? '1' : '0';
+    return digits;
+  };
+  bar->_DisableEntirely();
+  EXPECT_EQ(enabled(), "100000");
+  quit->Choose();
+  EXPECT_THAT(toolkit_.Lines(), IsEmpty());
+  bar->_SelfEnable();
+  EXPECT_EQ(enabled(), "110010");
+  quit->Choose();
+  EXPECT_THAT(toolkit_.Lines(), ElementsAre("quit"));
+}
+
+TEST_F(Controls, TakeAWholeBlockAndSayWhereAnyOtherIsDamaged) {
+  const auto label = bench_->__New<Label>();
+  const auto set = [&](std::string_view bytes) {
+    return Reported([&] {
+      _SetProperties(*label,
+                     {reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size() - 1});
+    });
+  };
+  EXPECT_EQ(set("\xFFTextColor \1\2\3\4"), "");
+  EXPECT_EQ(label->TextColor(), (Color{1, 2, 3, 4}));
+  const std::pair<const char*, const char*> damaged[] = {
+      {"\xFFText", "\"\", offset 1: a key without an end"},
+      {"\xFFWidth 1234567", "\"Width\", offset 7: the value runs past the end"},
+      {"\xFFNone 1", "\"None\", offset 6: no such property"},
+  };
+  for (const auto& [bytes, where] : damaged) {
+    EXPECT_EQ(set(bytes),
+              std::string("failure UnsupportedFormatException: Description block of Label, key ") +
+                  where + " (error number 0)");
+  }
 }
 
 TEST_F(Controls, RefuseWhatDoesNotFit) {
@@ -122,9 +177,19 @@ TEST_F(Controls, RefuseWhatDoesNotFit) {
   EXPECT_THROW(RuntimeCreateDelegate<&Bench::Ticked>(nullptr, "( CheckBox )"), NilObjectException);
   EXPECT_THROW(Timer::CallLater(0, nullptr), NilObjectException);
   EXPECT_EQ(list_->LastIndex(), -1);
-  EXPECT_THROW(list_->AddRow({"a", "one too many"}), OutOfBoundsException);
-  list_->Select(1);
-  EXPECT_THAT(toolkit_.Lines(), ElementsAre(testing::StartsWith("failure OutOfBoundsException")));
+  EXPECT_THROW(list_->ColumnCount(0), InvalidArgumentException);
+  EXPECT_THAT(Reported([&] {
+                list_->AddRow({"a", "one too many"});
+              }),
+              HasSubstr("Index 1 is outside an array whose last index is 0"));
+  EXPECT_EQ(list_->Cell(0, 0).View(), "a");
+  EXPECT_THROW(list_->ColumnCount(2), InvalidArgumentException);
+  const std::function<void()> outside[] = {
+      [&] { list_->Cell(-1, 0); }, [&] { list_->Cell(1, 0); }, [&] { list_->Cell(0, -1); },
+      [&] { list_->Cell(0, 1); },  [&] { list_->Select(-2); }, [&] { list_->Select(1); },
+  };
+  for (const auto& each : outside)
+    EXPECT_THAT(Reported(each), HasSubstr("an array whose last index is 0"));
   const auto bar = RuntimeNewObject<framework::MenuBar>();
   const auto item = RuntimeNewObject<MenuItem>();
   bar->Append(item);

@@ -41,15 +41,11 @@ constexpr EventInfo kEvents[] = {{Listbox::kChange, "( Listbox )"}};
 constinit const ClassInfo Listbox::kClass{"Listbox", &RectControl::kClass, kProperties, kEvents};
 
 void Listbox::ColumnCount(std::int64_t value) {
-  if (value < 1) RuntimeRaiseException(InvalidArgumentException("A list has at least one column."));
   if (value == column_count_) return;
-  std::vector<String> cells;
-  for (std::int64_t row = 0; row <= LastIndex(); ++row) {
-    for (std::int64_t column = 0; column < value; ++column) {
-      cells.push_back(column < column_count_ ? Cell(row, column) : String());
-    }
+  if (value < 1 || !cells_.empty()) {
+    RuntimeRaiseException(
+        InvalidArgumentException("A list has one column or more from its start."));
   }
-  cells_ = std::move(cells);
   column_count_ = value;
   _Changed(Change::Look);
 }
@@ -120,8 +116,7 @@ void Listbox::Select(std::int64_t row) {
 
 std::size_t Listbox::Place(std::int64_t row, std::int64_t column) const {
   if (column < 0 || column >= column_count_) RaiseOutOfBoundsException(column, column_count_ - 1);
-  const std::int64_t last = static_cast<std::int64_t>(cells_.size()) / column_count_ - 1;
-  if (row < 0 || row > last) RaiseOutOfBoundsException(row, last);
+  if (row < 0 || row > LastIndex()) RaiseOutOfBoundsException(row, LastIndex());
   return static_cast<std::size_t>(row * column_count_ + column);
 }
 

@@ -21,7 +21,8 @@ class Listbox : public RectControl {
   Property<std::int64_t> _ScrollOffset{*this, Change::Look};
   Property<std::int64_t> _ScrollWidth{*this, Change::Look};
   Property<bool> Border{*this, Change::Look};
-  /// Columns of each row, at least 1. Setting it empties the cells that it cuts off.
+  /// Columns of each row. Raises InvalidArgumentException for less than 1, and for another number
+  /// once there are rows.
   std::int64_t ColumnCount() const { return column_count_; }
   void ColumnCount(std::int64_t value);
   /// The widths of the columns, joined by commas, as shares of the list's: "35%,65%".
