@@ -31,6 +31,21 @@ TEST_F(Failures, AreReportedWhenNoOneTookThem) {
               StartsWith("failure IOException"));
 }
 
+TEST_F(Failures, WithTooLongAMessageAreToldWithAsMuchOfItAsFits) {
+  const std::string fits(961, 'x');
+  const std::pair<std::string, std::string> messages[] = {
+      {fits, fits},
+      {fits + "x", fits},
+      {fits.substr(1) + "é", fits.substr(1)},
+      {fits.substr(2) + "éx", fits.substr(2) + "é"},
+      {std::string(2000, '\x80'), ""},
+  };
+  for (const auto& [message, told] : messages) {
+    EXPECT_EQ(Reported([&] { RuntimeRaiseException(KeyNotFoundException(message)); }),
+              "failure KeyNotFoundException: " + told + " (error number 0)");
+  }
+}
+
 TEST_F(Failures, TravelWholeAndKnowWhereTheyWereRaised) {
   const InvalidArgumentException made("which");
   const RuntimeException& known_by_its_base = made;

@@ -2,7 +2,9 @@
 
 #include <cxxabi.h>
 
-#include <charconv>
+#include <algorithm>
+#include <cinttypes>
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <typeinfo>
@@ -28,26 +30,22 @@ FailureText::FailureText(const std::exception_ptr& failure) noexcept {
 }
 
 void FailureText::Describe(const RuntimeException& failure) noexcept {
-  std::array<char, 20> digits{};
-  const char* const end =
-      std::to_chars(digits.data(), digits.data() + digits.size(), failure.ErrorNumber()).ptr;
+  std::array<char, 40> number{};
+  const int size = std::snprintf(number.data(), number.size(), " (error number %" PRId64 ")",
+                                 failure.ErrorNumber());
+  const std::string_view tail(number.data(), static_cast<std::size_t>(size));
   Append(failure.ClassName());
   if (!failure.Message().View().empty()) {
-    constexpr std::size_t kForTheNumber = 40;
     Append(": ");
-    Append(failure.Message(), kForTheNumber);
+    Append(failure.Message(), tail.size());
   }
-  Append(" (error number ");
-  Append(std::string_view(digits.data(), static_cast<std::size_t>(end - digits.data())));
-  Append(")");
+  Append(tail);
 }
 
 void FailureText::Append(std::string_view part, std::size_t room_left_behind) noexcept {
-  const std::size_t used = size_ + room_left_behind;
-  std::size_t size = used < text_.size() ? text_.size() - used : 0;
-  if (part.size() <= size) {
-    size = part.size();
-  } else {
+  const std::size_t room = text_.size() - std::min(text_.size(), size_ + room_left_behind);
+  std::size_t size = std::min(part.size(), room);
+  if (size < part.size()) {
     // Not inside a character.
     while (size > 0 && (static_cast<unsigned char>(part[size]) & 0xC0U) == 0x80U) --size;
   }
