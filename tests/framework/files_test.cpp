@@ -1,7 +1,11 @@
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 
+#include "framework/files/standard_files.h"
 #include "framework/files/text_input_stream.h"
 #include "support/running.h"
 #include "support/test_bundle.h"
@@ -27,6 +31,17 @@ TEST_F(Files, CarryTheSystemsErrors) {
   const auto no_file = TextInputStream::Open(Item(""));
   EXPECT_FALSE(no_file->EOF_()) << "the failure is the next ReadLine's to tell";
   EXPECT_EQ(Reported([&] { no_file->ReadLine(); }), raises(EISDIR));
+}
+
+TEST_F(Files, OfTheStandardThatAreClosedAreOpened) {
+  const int files[] = {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO};
+  const auto end_with_how_many_are_open = [&] {
+    for (const int file : files) close(file);
+    OpenStandardFiles();
+    std::_Exit(static_cast<int>(std::count_if(
+        std::begin(files), std::end(files), [](int file) { return fcntl(file, F_GETFD) != -1; })));
+  };
+  EXPECT_EXIT(end_with_how_many_are_open(), testing::ExitedWithCode(3), "");
 }
 
 TEST_F(Files, AreLetGoOf) {

@@ -28,13 +28,15 @@ TEST_F(Values, AreKeptByReferencesAndNotByWeakOnes) {
   EXPECT_FALSE(weak->Value());
 }
 
-TEST_F(Values, ThatATimerKeepsGoWithTheRun) {
-  auto thing = RuntimeNewObject<Thing>();
-  const Ref<WeakRef> weak = thing->self;
-  Timer::CallLater(0, [kept = std::exchange(thing, nullptr)] {});
-  EXPECT_TRUE(weak->Value());
-  RuntimePerformFinalizers();
-  EXPECT_FALSE(weak->Value());
+TEST_F(Values, ThatATimerKeepsGoAsItFiresOrWithTheRun) {
+  for (const auto& end : {std::function([this] { toolkit_.Run(); }), {&RuntimePerformFinalizers}}) {
+    auto thing = RuntimeNewObject<Thing>();
+    const Ref<WeakRef> weak = thing->self;
+    Timer::CallLater(0, [kept = std::exchange(thing, nullptr)] {});
+    EXPECT_TRUE(weak->Value());
+    end();
+    EXPECT_FALSE(weak->Value());
+  }
 }
 
 TEST_F(Values, OfNoUseAreRefusedOrTakenForEmpty) {

@@ -69,7 +69,7 @@ Ref<TextInputStream> FolderItemOpenTextFile(FolderItem& item) {
   // become the program's own.
   const int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
   const int file = open(SystemPath(item.path_).c_str(), flags);
-  if (file < 0) {
+  if (file == -1) {
     item.last_error_code_ = errno;
     return nullptr;
   }

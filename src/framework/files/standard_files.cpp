@@ -6,11 +6,10 @@
 namespace framework {
 
 void OpenStandardFiles() {
-  // The system gives the lowest number that is free. A file beyond the standard ones was not
-  // needed.
-  int file = 0;
-  while (file >= 0 && file <= STDERR_FILENO) file = open("/dev/null", O_RDWR);
-  if (file > STDERR_FILENO) close(file);
+  // The system gives the lowest number that is free.
+  for (int file = STDIN_FILENO; file <= STDERR_FILENO; ++file) {
+    if (fcntl(file, F_GETFD) == -1) open("/dev/null", O_RDWR);
+  }
 }
 
 }  // namespace framework
