@@ -45,14 +45,20 @@ TEST_F(StartUp, RunsFromEntryToExitInOrder) {
 }
 
 TEST_F(StartUp, AnyFailureBeforeTheRunReachesTheOutermostBlock) {
-  toolkit_.Observe([](const std::string& line) {
-    if (line == "initialise") throw std::runtime_error("odd");
-  });
-  EXPECT_EQ(shell::main(), 1);
-  EXPECT_THAT(
-      toolkit_.Lines(),
-      testing::ElementsAre("initialise", "failure std::runtime_error: odd", "wait until read"));
-  EXPECT_FALSE(getAppObject()) << "the finalizers ran all the same";
+  const std::pair<void (*)(), const char*> failures[] = {
+      {[] { throw std::runtime_error("odd"); }, "failure std::runtime_error: odd"},
+      {[] { RuntimeRaiseException(IOException()); }, "failure IOException (error number 0)"},
+      {[] { throw 1; }, "failure A failure of an unknown class."},
+  };
+  for (const auto& [fail, told] : failures) {
+    toolkit_.ClearLog();
+    toolkit_.Observe([fail = fail](const std::string& line) {
+      if (line == "initialise") fail();
+    });
+    EXPECT_EQ(shell::main(), 1);
+    EXPECT_THAT(toolkit_.Lines(), testing::ElementsAre("initialise", told, "wait until read"));
+    EXPECT_FALSE(getAppObject()) << "the finalizers ran all the same";
+  }
 }
 
 }  // namespace

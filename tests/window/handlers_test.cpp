@@ -66,8 +66,8 @@ TEST_F(Handlers, OperationsOnTheUserInterfaceAreRefusedOffTheMainThread) {
   const std::function<void()> operations[] = {
       [&] { window_->lbExact()->AddRow({"a"}); },
       [&] { window_->lbExact()->AddRow(Array<String>()); },
-      [&] { window_->lbExact()->Cell(0, 0); },
-      [&] { window_->lbExact()->Cell(0, 0, "a"); },
+      [&] { window_->lbExact()->Cell(0, 9); },
+      [&] { window_->lbExact()->Cell(0, 9, "a"); },
       [&] { window_->lbExact()->DeleteAllRows(); },
       [&] { window_->lbExact()->ListIndex(); },
       [&] { window_->lbExact()->LastIndex(); },

@@ -70,12 +70,10 @@ void Listbox::Append(std::span<const String> values) {
 }
 
 const String& Listbox::Cell(std::int64_t row, std::int64_t column) const {
-  _UITrap();
   return cells_[Place(row, column)];
 }
 
 void Listbox::Cell(std::int64_t row, std::int64_t column, String text) {
-  _UITrap();
   String& cell = cells_[Place(row, column)];
   if (Same(cell, text)) return;
   cell = std::move(text);
@@ -115,6 +113,7 @@ void Listbox::Select(std::int64_t row) {
 }
 
 std::size_t Listbox::Place(std::int64_t row, std::int64_t column) const {
+  _UITrap();
   if (column < 0 || column >= column_count_) RaiseOutOfBoundsException(column, column_count_ - 1);
   if (row < 0 || row > LastIndex()) RaiseOutOfBoundsException(row, LastIndex());
   return static_cast<std::size_t>(row * column_count_ + column);

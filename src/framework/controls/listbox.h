@@ -69,6 +69,7 @@ class Listbox : public RectControl {
 
  private:
   void Append(std::span<const String> values);
+  /// Of a cell in cells_, behind the guard.
   std::size_t Place(std::int64_t row, std::int64_t column) const;
 
   std::int64_t column_count_ = 1;

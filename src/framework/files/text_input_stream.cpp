@@ -19,11 +19,10 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// read() that goes on when a signal came between.
 ssize_t ReadSome(int file, char* to, std::size_t size) {
-  ssize_t count = 0;
-  do {
-    count = read(file, to, size);
-  } while (count < 0 && errno == EINTR);
-  return count;
+  while (true) {
+    const ssize_t count = read(file, to, size);
+    if (count >= 0 || errno != EINTR) return count;
+  }
 }
 
 bool EndsLine(char byte) { return byte == '\n' || byte == '\r'; }
