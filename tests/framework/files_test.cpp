@@ -62,6 +62,7 @@ TEST_F(Files, AreLetGoOf) {
   EXPECT_TRUE(stream->EOF_());
   EXPECT_EQ(std::string(stream->ReadLine()), "");
   TextInputStream::Open(Item("file"));
+  TextInputStream::Open(Item(""));
   EXPECT_EQ(open_files(), before);
 }
 

@@ -27,8 +27,12 @@ TEST_F(StartUp, RunsFromEntryToExitInOrder) {
   toolkit_.Observe([&](const std::string& line) { seen.push_back(line + " |" + Present()); });
   toolkit_.Post([&] {
     EXPECT_EQ(window::wdwMain()->MenuBar(), menu::MainMenuBar());
-    EXPECT_EQ(getAppObject()->MenuBar(), menu::MainMenuBar());
-    EXPECT_EQ(Text(getAppObject()->Version()), "1.1");
+    const Application& app = *getAppObject();
+    EXPECT_EQ(app.MenuBar(), menu::MainMenuBar());
+    EXPECT_EQ(Text(app.Version()), "1.1");
+    EXPECT_EQ(std::tuple(app.MajorVersion(), app.MinorVersion(), app.BugVersion(),
+                         app.NonReleaseVersion(), app.StageCode()),
+              std::tuple(1, 1, 0, 0, 0));
     EXPECT_EQ(RuntimeFrameworkVersion(), 2019.01);
     window::wdwMain()->Close();
   });

@@ -69,14 +69,14 @@ Ref<TextInputStream> FolderItemOpenTextFile(FolderItem& item) {
   // become the program's own.
   const int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
   const int file = open(SystemPath(item.path_).c_str(), flags);
-  if (file == -1) {
+  if (file == TextInputStream::kNoFile) {
     item.last_error_code_ = errno;
     return nullptr;
   }
   const int error = WhyNoFile(file);
   if (error == 0) return RuntimeNewObject<TextInputStream>(file);
   close(file);
-  return RuntimeNewObject<TextInputStream>(-1, error);
+  return RuntimeNewObject<TextInputStream>(TextInputStream::kNoFile, error);
 }
 
 }  // namespace framework

@@ -65,13 +65,13 @@ String TextInputStream::ReadLine() {
 bool TextInputStream::EOF_() { return !Ready() && pending_error_ == 0; }
 
 void TextInputStream::Close() {
-  if (file_ >= 0) close(file_);
-  file_ = -1;
+  if (file_ != kNoFile) close(file_);
+  file_ = kNoFile;
   position_ = block_.size();
 }
 
 bool TextInputStream::Ready() {
-  if (position_ == block_.size() && pending_error_ == 0 && file_ >= 0) Fill();
+  if (position_ == block_.size() && pending_error_ == 0 && file_ != kNoFile) Fill();
   return position_ < block_.size();
 }
 

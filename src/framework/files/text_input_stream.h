@@ -11,11 +11,13 @@ namespace framework {
 /// mark at the start of the file is dropped; other bytes come as they stand. It writes nothing.
 class TextInputStream final : public Object {
  public:
+  static constexpr int kNoFile = -1;
+
   /// Raises NilObjectException for a nil item, and IOException with the item's LastErrorCode as
   /// ErrorNumber for one that cannot be opened.
   static Ref<TextInputStream> Open(const Ref<FolderItem>& item);
 
-  /// Takes over an open file of the system; -1 for none. An error other than 0 is the next
+  /// Takes over an open file of the system, or kNoFile. An error other than 0 is the next
   /// ReadLine's to tell.
   explicit TextInputStream(int file, int error = 0) : file_(file), pending_error_(error) {}
   ~TextInputStream() override { Close(); }
