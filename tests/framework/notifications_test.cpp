@@ -65,6 +65,10 @@ TEST_F(Notifications, StepOverAClientThatDiedAndReachOneThatCameMeanwhile) {
   a = nullptr;
   toolkit_.Run();
   EXPECT_THAT(toolkit_.Lines(), ElementsAre("run", "b " + kTheme, "late " + kTheme));
+  toolkit_.ClearLog();
+  _PostNotification(kColorsChanged);
+  toolkit_.Run();
+  EXPECT_THAT(toolkit_.Lines(), ElementsAre("run", "b " + kColors, "late " + kColors));
 }
 
 TEST_F(Notifications, StayAtTheHeadWhenAClientFails) {
@@ -92,14 +96,20 @@ class Refusing final : public ObjectRuntime {
   Ptr NSClassFromString(const String&) override { return Answer("class"); }
   Ptr objc_allocateClassPair(Ptr, const String&) override { return Answer("allocate"); }
   void objc_registerClassPair(Ptr) override { Answer("register"); }
-  bool class_addMethod(Ptr, Ptr, Implementation, const String&) override { return Answer("add"); }
+  bool class_addMethod(Ptr, Ptr, Implementation method, const String&) override {
+    method_ = method;
+    return Answer("add");
+  }
   Ptr alloc(Ptr) override { return Answer("alloc"); }
   Ptr init(Ptr) override { return Answer("init"); }
   Ptr defaultCenter(Ptr) override { return Answer("center"); }
   void addObserver_selector_name_object(Ptr, Ptr, Ptr, const String& name, Ptr) override {
     Answer(name);
   }
-  String name(Ptr) override { return {}; }
+  String name(Ptr) override { return "name"; }
+
+  void Permit() { refused_ = ""; }
+  void Deliver() { method_(nullptr, nullptr, nullptr); }
 
  private:
   Ptr Answer(const String& question) {
@@ -107,25 +117,36 @@ class Refusing final : public ObjectRuntime {
     return question.View() == refused_ ? nullptr : this;
   }
   std::string refused_;
+  Implementation method_ = nullptr;
   toolkit::memory::MemoryToolkit& toolkit_;
 };
 
 TEST_F(Notifications, HaveTheirObserverSetUpStepByStepAsFarAsTheSystemGoes) {
-  const auto asked_by_two_clients = [this](const char* refused) {
+  const auto asked_by_three_clients = [this](const char* refused) {
     RuntimePerformInitializers({});
-    ObjectRuntime::_Set(std::make_unique<Refusing>(refused, toolkit_));
+    auto refusing = std::make_unique<Refusing>(refused, toolkit_);
+    Refusing& system = *refusing;
+    ObjectRuntime::_Set(std::move(refusing));
     toolkit_.ClearLog();
-    Make("a");
+    const auto a = Make("a");
     toolkit_.Log("again:");
-    Make("b");
+    const auto b = Make("b");
+    toolkit_.Log("at last:");
+    system.Permit();
+    const auto c = Make("c");
+    system.Deliver();
+    toolkit_.Run();
     return toolkit_.Lines();
   };
   EXPECT_THAT(
-      asked_by_two_clients("allocate"),
-      ElementsAre("selector", "class", "allocate", "again:", "selector", "class", "allocate"));
-  EXPECT_THAT(asked_by_two_clients("add"),
+      asked_by_three_clients("allocate"),
+      ElementsAre("selector", "class", "allocate", "again:", "selector", "class", "allocate",
+                  "at last:", "selector", "class", "allocate", "register", "add", "alloc", "init",
+                  "class", "center", kTheme, kColors, "run", "c name"));
+  EXPECT_THAT(asked_by_three_clients("add"),
               ElementsAre("selector", "class", "allocate", "register", "add", "again:", "selector",
-                          "alloc", "init", "class", "center", kTheme, kColors));
+                          "alloc", "init", "class", "center", kTheme, kColors, "at last:", "run",
+                          "b name", "c name"));
 }
 
 TEST_F(Notifications, FindAnObjectRuntimeThatKeepsItsRules) {

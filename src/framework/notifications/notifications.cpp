@@ -83,7 +83,7 @@ bool Setup() {
 }  // namespace
 
 void Register(iNotify& client) {
-  if (State().mObserverInstance == nullptr && !Setup()) return;
+  if (!Setup()) return;
   State().dispatchTo.Append(RuntimeNewObject<WeakRef>(&client));
 }
 
