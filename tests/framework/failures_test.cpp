@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <thread>
 
 #include "framework/events/msg_box.h"
@@ -56,6 +57,11 @@ TEST_F(Failures, TravelWholeAndKnowWhereTheyWereRaised) {
   } catch (const InvalidArgumentException& raised) {
     EXPECT_EQ(raised.Message().View(), "which");
     EXPECT_GT(raised.CallStack().LastIndex(), 3);
+    const Array<String> stack = raised.Stack();
+    EXPECT_EQ(stack.LastIndex(), raised.CallStack().LastIndex());
+    const auto names = stack._Items();
+    EXPECT_TRUE(std::any_of(names.begin(), names.end(),
+                            [](std::string_view name) { return !name.empty(); }));
     return;
   }
   FAIL() << "it was raised as another";

@@ -78,14 +78,14 @@ TEST_F(Files, MayComeByteForByte) {
   std::array<int, 2> ends{};
   ASSERT_EQ(pipe(ends.data()), 0);
   std::thread writer([&] {
-    for (const char byte : kMark + "a\r\nb\rc\n\n" + kMark) {
+    for (const char byte : kMark + "a\r\nb\rc\n\n\n" + kMark) {
       int unread = write(ends[1], &byte, 1) == 1 ? 1 : 0;
       while (unread > 0) ioctl(ends[0], FIONREAD, &unread);
     }
     close(ends[1]);
   });
   EXPECT_THAT(LinesOf(*RuntimeNewObject<TextInputStream>(ends[0])),
-              ElementsAre("a", "b", "c", "", kMark));
+              ElementsAre("a", "b", "c", "", "", kMark));
   writer.join();
 }
 

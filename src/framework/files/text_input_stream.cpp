@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -18,9 +19,9 @@ constexpr std::size_t kLongestLine = std::size_t{1024} * 1024;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// read() that goes on when a signal came between.
-ssize_t ReadSome(int file, char* to, std::size_t size) {
+ssize_t ReadSome(int file, std::span<char> to) {
   while (true) {
-    const ssize_t count = read(file, to, size);
+    const ssize_t count = read(file, to.data(), to.size());
     if (count >= 0 || errno != EINTR) return count;
   }
 }
@@ -81,12 +82,12 @@ void TextInputStream::Fill() {
   // and a byte behind it, or the file would seem to end there.
   const std::size_t wanted = started_ ? 1 : kByteOrderMark.size() + 1;
   std::size_t size = 0;
-  ssize_t count = 1;
-  while (size < wanted && count > 0) {
-    count = ReadSome(file_, block_.data() + size, kBlock - size);
-    if (count > 0) size += static_cast<std::size_t>(count);
+  while (size < wanted) {
+    const ssize_t count = ReadSome(file_, std::span(block_).subspan(size));
+    if (count < 0) pending_error_ = errno;
+    if (count <= 0) break;
+    size += static_cast<std::size_t>(count);
   }
-  if (count < 0) pending_error_ = errno;
   block_.resize(size);
   const bool marked = !std::exchange(started_, true) && block_.starts_with(kByteOrderMark);
   position_ = marked ? kByteOrderMark.size() : 0;

@@ -32,8 +32,8 @@ Array<StackFrame> RuntimeException::CallStack() const {
   auto frames = CreateArray<StackFrame>(-1);
   for (void* const address : std::span(addresses_).first(depth_)) {
     Dl_info symbol{};
-    const bool named = dladdr(address, &symbol) != 0 && symbol.dli_sname != nullptr;
-    frames.Append(StackFrame{address, named ? String(symbol.dli_sname) : String()});
+    dladdr(address, &symbol);
+    frames.Append(StackFrame{address, symbol.dli_sname});
   }
   return frames;
 }

@@ -30,7 +30,7 @@ Array<String> Split(const String& text, const String& delimiter) {
   if (!cut.empty()) {
     parts.reserve(static_cast<std::size_t>(std::count(rest.begin(), rest.end(), cut[0])) + 1);
   }
-  for (std::size_t at = 0; !cut.empty() && (at = rest.find(cut)) != rest.npos;) {
+  for (std::size_t at{}; !cut.empty() && (at = rest.find(cut)) != rest.npos;) {
     parts.emplace_back(rest.substr(0, at));
     rest.remove_prefix(at + cut.size());
   }
