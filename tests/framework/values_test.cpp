@@ -47,6 +47,7 @@ TEST_F(Values, OfNoUseAreRefusedOrTakenForEmpty) {
   EXPECT_EQ(CreateArray<String>(-1).LastIndex(), -1);
   EXPECT_EQ(Split(nullptr, nullptr)[0].View(), "");
   EXPECT_EQ(Split("a,b", nullptr).LastIndex(), 0);
+  EXPECT_EQ(RuntimeStringCompare("a", "b"), 1);
 }
 
 TEST_F(Values, ThatAreTextsHaveAnyLengthAndOutliveEachOther) {
@@ -61,6 +62,14 @@ TEST_F(Values, ThatAreTextsHaveAnyLengthAndOutliveEachOther) {
     EXPECT_EQ(String(moved, "y").View(), bytes + "y");
     EXPECT_EQ(moved.View(), bytes);
   }
+}
+
+TEST_F(Values, AreReadFromTheStartOfAText) {
+  const std::pair<const char*, double> texts[] = {
+      {"5", 5},  {" \t-12x3", -12}, {".5e1", 5}, {"1e999", 0},
+      {"x1", 0}, {"- 1", 0},        {"+1", 0},   {"", 0},
+  };
+  for (const auto& [text, value] : texts) EXPECT_EQ(Val(text), value) << text;
 }
 
 TEST_F(Values, RaiseWhenThereIsNoneToGiveOut) {

@@ -71,6 +71,7 @@ TEST_F(OpenedWindow, HasItsControlsAndMenusInOrder) {
   std::string text;
   for (const auto& control : window_->_Controls()) text += Described(control);
   for (const auto& entry : Entries(*window_->MenuBar())) {
+    EXPECT_TRUE(entry->AutoEnable() && entry->Visible());
     text += Text(entry->Name()) + " '" + Text(entry->Text()) + "' '" +
             Text(entry->KeyboardShortcut()) + "'\n";
   }
