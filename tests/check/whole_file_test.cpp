@@ -11,7 +11,7 @@ using testing::StartsWith;
 
 /// With quotation marks around banks and names.
 std::string Quoted(const std::string& library) {
-  return std::regex_replace(library, std::regex("(^|\n)([^,\n]+),([^,\n]+)"), "$1\"$2\",\"$3\"");
+  return std::regex_replace(library, std::regex("(^|\n)([^,\n]*),([^,\n]*)"), "$1\"$2\",\"$3\"");
 }
 
 TEST(Checker, SaysOnceAndFirstWhatIsWrongWithTheWholeFile) {
@@ -20,8 +20,6 @@ TEST(Checker, SaysOnceAndFirstWhatIsWrongWithTheWholeFile) {
   const std::string semicolons = Replaced(good, ",", ";");
   const std::string german = Replaced(Replaced(good, "TRUE", "WAHR"), "FALSE", "FALSCH");
   const std::string headings = "Bank,Scale" + kNotes + kNotes;
-  const std::string without_root = kNotes.substr(0, 1) + "FALSE" + kNotes.substr(5);
-  const std::string five = good + "Steps,a" + without_root + "\nLeaps,b" + without_root + "\n";
   const std::string words =
       R"( warning: found "WAHR" and "FALSCH" for the notes, expected TRUE and FALSE: )"
       R"(replace "WAHR" by TRUE and "FALSCH" by FALSE)";
@@ -36,14 +34,10 @@ TEST(Checker, SaysOnceAndFirstWhatIsWrongWithTheWholeFile) {
       {"semicolons", semicolons, {" error: found semicolons between", three + "1 error, 0 w"}},
       {"tabs", Replaced(good, ",", "\t"), {" error: found tabs between", three}},
       {"other words", german, {words, three + "0 errors, 1 warning,"}},
-      {"one other word, at two roots of five",
-       Replaced(five, "FALSE", "FAUX"),
+      {"one other word",
+       Replaced(good, "FALSE", "FAUX"),
        {R"( warning: found "FAUX" for the notes, expected TRUE and FALSE: replace "FAUX" by FALSE)",
-        "6:9: warning: found \"FAUX\" at position 0", "7:9", " 5 scales"}},
-      {"one other word, at three roots of five",
-       Replaced(five, "TRUE", "VRAI"),
-       {R"( warning: found "VRAI" for the notes, expected TRUE and FALSE: replace "VRAI" by TRUE)",
-        "6:9: warning: found \"FALSE\" at position 0", "7:9", " 5 scales"}},
+        three}},
       {"an x or nothing",
        Replaced(Replaced(good, "TRUE", "x"), "FALSE", ""),
        {R"( warning: found "x" and empty fields for the notes)", three}},
@@ -55,14 +49,10 @@ TEST(Checker, SaysOnceAndFirstWhatIsWrongWithTheWholeFile) {
        semicolons + "Chords;m;TRUE\n",
        {" error: found semicolons", "6:14: error: found 3 fields, expected 14", three}},
       {"inside of the quotation marks",
-       Quoted(good) + R"("Triads","maj")" + kNotes + R"(
-"Steps","")" +
-           kNotes + R"(
-Cho","m"")" +
-           kNotes,
+       Quoted(good + "Triads,maj" + kNotes + "\nSteps," + kNotes + "\nLeaps,m\"" + kNotes),
        {" warning: found quotation marks around", R"(6:10: warning: found the name "maj" again)",
-        "7:10: warning: found no name", "8:4: warning: found a quotation mark in the bank",
-        "8:8: warning: found a quotation mark in the name", " 6 scales in 5 banks"}},
+        "7:10: warning: found no name", "8:11: warning: found a quotation mark in the name",
+        " 6 scales in 5 banks"}},
       {"numbers, which need no quotation marks",
        Replaced(Replaced(Quoted(good), R"("Arpeggios")", "7"), R"("Chords","maj")",
                 R"("Chords",7)"),

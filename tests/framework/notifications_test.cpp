@@ -149,20 +149,4 @@ TEST_F(Notifications, HaveTheirObserverSetUpStepByStepAsFarAsTheSystemGoes) {
                           "b name", "c name"));
 }
 
-TEST_F(Notifications, FindAnObjectRuntimeThatKeepsItsRules) {
-  LocalObjectRuntime runtime;
-  const Ptr root = runtime.NSClassFromString("NSObject");
-  EXPECT_FALSE(runtime.objc_allocateClassPair(nullptr, "Made"));
-  const Ptr made = runtime.objc_allocateClassPair(root, "Made");
-  EXPECT_FALSE(runtime.objc_allocateClassPair(root, "Made")) << "there is one";
-  EXPECT_FALSE(runtime.alloc(made)) << "it is not registered";
-  runtime.objc_registerClassPair(made);
-  EXPECT_FALSE(runtime.defaultCenter(made));
-  const Ptr center = runtime.NSClassFromString("NSDistributedNotificationCenter");
-  for (const Ptr known : {root, made, center}) EXPECT_TRUE(runtime.alloc(known));
-  runtime.addObserver_selector_name_object(runtime.defaultCenter(center), runtime.alloc(made),
-                                           runtime.NSSelectorFromString("none:"), "name", nullptr);
-  runtime.Post("name");
-}
-
 }  // namespace

@@ -11,8 +11,6 @@ long until_refusal = -1;
 /// Whether all that follow are refused too.
 bool lasting = false;
 bool refused = false;
-/// Allocations that were not given back.
-long held = 0;
 
 bool Refuses() {
   if (until_refusal < 0 || until_refusal-- > 0) return false;
@@ -23,16 +21,12 @@ bool Refuses() {
 }  // namespace
 
 void* operator new(std::size_t size) {
-  void* const memory = Refuses() ? nullptr : std::malloc(size);
-  if (memory == nullptr) throw std::bad_alloc();
-  ++held;
-  return memory;
+  if (Refuses()) throw std::bad_alloc();
+  if (void* const memory = std::malloc(size)) return memory;
+  throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept {
-  if (memory != nullptr) --held;
-  std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace {
 
@@ -111,19 +105,6 @@ TEST_F(OutOfMemory, AsLongAsTheReportTakesLeavesTheLineOnStandardError) {
     if (other->Value()) other->Toggle();
     ASSERT_THAT(Containing(), testing::SizeIs(3));
   }
-}
-
-TEST(Memory, IsGivenBackWithTheLastReference) {
-  const long before = held;
-  for (const bool object_first : {false, true}) {
-    auto object = RuntimeNewObject<Object>();
-    auto weak = RuntimeNewObject<WeakRef>(object);
-    const String text("more than eight bytes");
-    const String copy = text;
-    if (object_first) object = nullptr;
-    weak = nullptr;
-  }
-  EXPECT_EQ(held, before);
 }
 
 }  // namespace

@@ -38,8 +38,7 @@ void _PostNotification(const String& name) {
   if (State().local != nullptr) State().local->Post(name);
 }
 
-LocalObjectRuntime::LocalObjectRuntime()
-    : classes_{{"NSObject", true, {}}, {std::string(kCenter), true, {}}} {}
+LocalObjectRuntime::LocalObjectRuntime() : classes_{{"NSObject", {}}, {std::string(kCenter), {}}} {}
 
 Ptr LocalObjectRuntime::NSSelectorFromString(const String& text) {
   return const_cast<std::string*>(&*selectors_.emplace(text.View()).first);
@@ -47,14 +46,11 @@ Ptr LocalObjectRuntime::NSSelectorFromString(const String& text) {
 
 Ptr LocalObjectRuntime::NSClassFromString(const String& name) { return FindClass(name); }
 
-Ptr LocalObjectRuntime::objc_allocateClassPair(Ptr superclass, const String& name) {
-  if (superclass == nullptr || FindClass(name) != nullptr) return nullptr;
-  return &classes_.emplace_back(Class{std::string(name), false, {}});
+Ptr LocalObjectRuntime::objc_allocateClassPair(Ptr, const String& name) {
+  return &classes_.emplace_back(Class{std::string(name), {}});
 }
 
-void LocalObjectRuntime::objc_registerClassPair(Ptr the_class) {
-  static_cast<Class*>(the_class)->registered = true;
-}
+void LocalObjectRuntime::objc_registerClassPair(Ptr) {}
 
 bool LocalObjectRuntime::class_addMethod(Ptr the_class, Ptr selector, Implementation implementation,
                                          const String&) {
@@ -62,8 +58,7 @@ bool LocalObjectRuntime::class_addMethod(Ptr the_class, Ptr selector, Implementa
 }
 
 Ptr LocalObjectRuntime::alloc(Ptr the_class) {
-  auto* const known = static_cast<Class*>(the_class);
-  return known->registered ? &instances_.emplace_back(Instance{known}) : nullptr;
+  return &instances_.emplace_back(Instance{static_cast<Class*>(the_class)});
 }
 
 Ptr LocalObjectRuntime::init(Ptr object) { return object; }

@@ -11,8 +11,8 @@
 namespace framework {
 
 /// The object runtime and notification centre where the system has none of the kind: classes with
-/// methods, objects, and one centre that delivers what it is given. It has no inheritance and
-/// releases no object.
+/// methods, objects, and one centre that delivers what it is given. It has no inheritance, asks for
+/// no registration and releases no object.
 class LocalObjectRuntime final : public ObjectRuntime {
  public:
   LocalObjectRuntime();
@@ -36,7 +36,6 @@ class LocalObjectRuntime final : public ObjectRuntime {
  private:
   struct Class {
     std::string name;
-    bool registered = false;
     std::map<Ptr, Implementation> methods;
   };
   struct Instance {
