@@ -84,7 +84,7 @@ TEST_F(Handlers, OperationsOnTheUserInterfaceAreRefusedOffTheMainThread) {
       [&] { window_->MenuBar(); },
       [&] { window_->MenuBar(nullptr); },
       [&] { window_->_AddControl("a", nullptr); },
-      [&] { window_->Constructor(); },
+      [&] { RuntimeNewObject<framework::Window>()->Constructor(); },
       [&] { quit->Constructor(); },
       [&] { quit->Text("a"); },
       [&] { quit->Append(nullptr); },
