@@ -48,17 +48,28 @@ TEST_F(Accessibility, RootIsATextThatFollowsTheChoice) {
   Open();
   QAccessibleInterface& root = Spoken("pmRoot");
   EXPECT_EQ(root.textInterface()->text(0, -1), "C");
+  EXPECT_TRUE(root.state().expandable);
   EXPECT_FALSE(root.state().expanded);
   root.actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
   EXPECT_TRUE(root.state().expanded);
   ASSERT_EQ(root.childCount(), 1);
   EXPECT_EQ(root.child(0)->childCount(), 12);
   EXPECT_EQ(root.indexOfChild(root.child(0)), 0);
+  EXPECT_EQ(root.indexOfChild(&root), -1);
   root.actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
   EXPECT_FALSE(root.state().expanded);
   hand_->ChooseRoot(4);
-  EXPECT_EQ(root.textInterface()->text(0, root.textInterface()->characterCount()), "C# / Db");
-  EXPECT_EQ(root.textInterface()->text(1, 2), "#");
+  EXPECT_EQ(root.text(QAccessible::Value), "C# / Db");
+  QAccessibleTextInterface& text = *root.textInterface();
+  EXPECT_EQ(text.text(0, text.characterCount()), "C# / Db");
+  EXPECT_EQ(text.text(1, 2), "#");
+  int ends[] = {-1, -1, -1, -1};
+  EXPECT_EQ(text.attributes(0, &ends[0], &ends[1]), "");
+  text.selection(0, &ends[2], &ends[3]);
+  EXPECT_THAT(ends, ElementsAre(0, 7, 0, 0)) << "one run of letters, none selected";
+  EXPECT_EQ(text.selectionCount(), 0);
+  EXPECT_EQ(text.cursorPosition(), 0);
+  EXPECT_EQ(text.offsetAtPoint({}), -1);
 }
 
 TEST_F(Accessibility, StarIsToldWithItsBoxAsLongAsItShows) {
