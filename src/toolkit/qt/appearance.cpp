@@ -4,9 +4,9 @@
 #include <QEvent>
 #include <QStyle>
 
-#include "framework/events/run_loop.h"
 #include "framework/notifications/local_object_runtime.h"
 #include "framework/notifications/notifications.h"
+#include "toolkit/qt/guarded.h"
 
 namespace toolkit::qt {
 
@@ -24,17 +24,14 @@ QPalette DarkPalette() {
   const QColor base(0x38, 0x38, 0x38);
   const QColor text(0xee, 0xee, 0xee);
   const QColor faint(0x8c, 0x8c, 0x8c);
-  QPalette palette(text, window, window.lighter(250), window.darker(180), window.lighter(150), text,
-                   Qt::white, base, window);
-  palette.setColor(QPalette::Button, base);
-  palette.setColor(QPalette::ToolTipBase, base);
-  palette.setColor(QPalette::ToolTipText, text);
-  palette.setColor(QPalette::PlaceholderText, faint);
-  palette.setColor(QPalette::Highlight, QColor(0x30, 0x8c, 0xc6));
-  palette.setColor(QPalette::HighlightedText, Qt::white);
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+  QPalette palette(base, window);
+  for (const auto role : {QPalette::Base, QPalette::ToolTipBase}) palette.setColor(role, base);
+  for (const auto role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+    palette.setColor(role, text);
     palette.setColor(QPalette::Disabled, role, faint);
   }
+  palette.setColor(QPalette::Highlight, QColor(0x30, 0x8c, 0xc6));
   return palette;
 }
 
@@ -55,17 +52,13 @@ Appearance::Appearance(QObject* application)
 }
 
 bool Appearance::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::ApplicationPaletteChange && !telling_) {
-    // A change may take several steps; what comes of it is told once.
-    telling_ = true;
-    QMetaObject::invokeMethod(
-        this, [this] { TellOfChange(); }, Qt::QueuedConnection);
+  // A change may take several steps; what comes of it is told once.
+  if (event->type() == QEvent::ApplicationPaletteChange) {
+    RunLater(this, [this] { TellOfChange(); });
   }
   // The platform's theme may tell of a flip before the portal does, after it, or alone.
-  if (event->type() == QEvent::ThemeChange && !following_) {
-    following_ = true;
-    QMetaObject::invokeMethod(
-        this, [this] { FollowDesktop(); }, Qt::QueuedConnection);
+  if (event->type() == QEvent::ThemeChange) {
+    RunLater(this, [this] { FollowDesktop(); });
   }
   return QObject::eventFilter(watched, event);
 }
@@ -81,7 +74,6 @@ QPalette Appearance::OwnOfQt() const {
 }
 
 void Appearance::FollowDesktop() {
-  following_ = false;
   QPalette palette = OwnOfQt();
   if (portal_.Dark() && !IsDark(palette)) palette = DarkPalette();
   if (portal_.Accent()) SetAccent(palette, *portal_.Accent());
@@ -89,16 +81,13 @@ void Appearance::FollowDesktop() {
 }
 
 void Appearance::TellOfChange() {
-  telling_ = false;
   const QPalette now = QApplication::palette();
   if (now == told_) return;
   // A change of the scheme changes all colours; what else came with it is no news of its own.
   const bool theme = IsDark(now) != IsDark(told_);
   told_ = now;
-  framework::_RunEvent([theme] {
-    using namespace framework::_MacOSDistributedNotifications;
-    framework::_PostNotification(theme ? kThemeChanged : kColorsChanged);
-  });
+  using namespace framework::_MacOSDistributedNotifications;
+  framework::_PostNotification(theme ? kThemeChanged : kColorsChanged);
 }
 
 }  // namespace toolkit::qt

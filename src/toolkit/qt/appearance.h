@@ -27,8 +27,6 @@ class Appearance final : public QObject {
   const QPalette first_;         ///< Qt's own, at the start
   const bool style_began_dark_;  ///< what the style would have taken then
   QPalette told_;                ///< as the notification centre knows it
-  bool following_ = false;
-  bool telling_ = false;
 };
 
 }  // namespace toolkit::qt
