@@ -15,28 +15,36 @@ using Lists = Behaviour<QtHand>;
 TEST_F(Lists, ListsHaveThreeColumnsAndAreRefreshedOnce) {
   Open();
   auto& list = Find<QTableView>("lbContaining");
-  const QSignalSpy refreshed(list.model(), &QAbstractItemModel::modelReset);
+  const QAbstractItemModel& model = *list.model();
+  const QSignalSpy announced(&model, &QAbstractItemModel::modelAboutToBeReset);
+  const QSignalSpy refreshed(&model, &QAbstractItemModel::modelReset);
   hand_->TickOther();
+  EXPECT_EQ(announced.count(), 1);
   EXPECT_EQ(refreshed.count(), 1);
-  EXPECT_EQ(list.model()->columnCount(), 3);
+  EXPECT_EQ(model.columnCount(), 3);
+  EXPECT_EQ(model.rowCount(model.index(0, 0)), 0);
+  EXPECT_EQ(model.columnCount(model.index(0, 0)), 0);
+  list.scrollToBottom();
+  hand_->Tick(0);
+  EXPECT_EQ(list.verticalScrollBar()->value(), 0);
+  ASSERT_GT(list.verticalScrollBar()->maximum(), 0);
+  const int room = list.columnWidth(1) * 2;
+  const CountOfPaintings paintings(*list.viewport());
+  window_->lbContaining()->ColumnWidths("2%,0%,98%");
+  QApplication::processEvents();
+  EXPECT_EQ(paintings.count, 1);
+  EXPECT_EQ(list.columnWidth(0), room * 2 / 100);
+  EXPECT_TRUE(list.isColumnHidden(1));
+  window_->lbContaining()->ColumnWidths("20%,20%,20%,20%,20%");
+  EXPECT_EQ(model.columnCount(), 4) << "as many as it has";
 }
-
-class CountOfPaintings final : public QObject {
- public:
-  bool eventFilter(QObject*, QEvent* event) override {
-    count += event->type() == QEvent::Paint;
-    return false;
-  }
-  int count = 0;
-};
 
 TEST_F(Lists, ColumnsReachToTheFrameOrToTheScrollBar) {
   Open();
   auto& list = Find<QTableView>("lbContaining");
   auto& bar = *list.verticalScrollBar();
   const int beside_bar = 385 - bar.sizeHint().width();
-  CountOfPaintings paintings;
-  list.viewport()->installEventFilter(&paintings);
+  CountOfPaintings paintings(*list.viewport());
   for (const bool long_list : {true, false, true}) {
     paintings.count = 0;
     window_->lbContaining()->DeleteAllRows();
@@ -49,6 +57,7 @@ TEST_F(Lists, ColumnsReachToTheFrameOrToTheScrollBar) {
     EXPECT_EQ(list.columnWidth(1), beside_bar / 2);
     const int end = list.columnViewportPosition(2) + list.columnWidth(2);
     EXPECT_EQ(end, 385 - (long_list ? bar.width() : 0));
+    EXPECT_EQ(list.viewport()->geometry(), QRect(1, 1, end, 247)) << "and there are no headings";
     const QRect row = list.visualRect(list.model()->index(1, 0));
     for (int y = row.top(); y <= row.bottom(); ++y) {
       for (const int x : {0, end - 1}) {
@@ -70,7 +79,7 @@ TEST_F(Lists, BytesThatAreNoTextShowAsSuch) {
 
 TEST_F(Lists, TextWithLineBreaksStandsOnOneLine) {
   Open();
-  for (const char* const name : {"do\u2028re\u2028mi", "do\nre\nmi", "do re mi"}) {
+  for (const char* const name : {"do\u2028re\u2028mi", "do\nre\nmi", "do re mi", ""}) {
     window_->lbContaining()->AddRow({"", name, ""});
   }
   QApplication::processEvents();
@@ -80,6 +89,9 @@ TEST_F(Lists, TextWithLineBreaksStandsOnOneLine) {
   };
   EXPECT_EQ(picture(0), picture(2));
   EXPECT_EQ(picture(1), picture(2));
+  QImage ground = picture(3);
+  ground.fill(ground.pixel(0, 0));
+  EXPECT_EQ(picture(3), ground) << "an empty cell, without a grid";
 }
 
 }  // namespace

@@ -41,6 +41,17 @@ Widget& Find(const std::string& name) {
   return *widget;
 }
 
+/// How often a widget is painted.
+class CountOfPaintings final : public QObject {
+ public:
+  explicit CountOfPaintings(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    count += event->type() == QEvent::Paint;
+    return false;
+  }
+  int count = 0;
+};
+
 /// The user's hand on the mouse and the keys of the real widgets.
 class QtHand {
  public:

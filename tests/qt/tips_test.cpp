@@ -29,6 +29,15 @@ class Tips : public Behaviour<QtHand> {
     page.setHtml(QString::fromStdString(At(widget, place)));
     return page.toRawText().remove(QChar(0x200B));
   }
+  /// How high the text of a picture is where it ends: a dot of an ellipsis is low.
+  static int HeightOfTheEnd(const QImage& picture) {
+    int height = 0;
+    for (int x = picture.width() - 1; x >= 0 && height == 0; --x) {
+      for (int y = 0; y < picture.height(); ++y)
+        height += picture.pixel(x, y) != picture.pixel(0, 0);
+    }
+    return height;
+  }
   static QRect OfTip() {
     for (const QWidget* const widget : QApplication::topLevelWidgets()) {
       if (widget->inherits("QTipLabel") && widget->isVisible()) return widget->geometry();
@@ -65,6 +74,29 @@ TEST_F(Tips, LeaveARootAloneInAFontOfTwentyPixelsToo) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return list.verticalScrollBar()->isVisible(); }));
   const QPoint root = list.visualRect(list.model()->index(1, 2)).center();
   EXPECT_EQ(At(*list.viewport(), root), list.toolTip().toStdString()) << "it is not cut";
+}
+
+TEST_F(Tips, TellOfEachCellThatIsCut) {
+  Open();
+  const auto list = window_->lbContaining();
+  list->HelpTag("");
+  constexpr int kMost = 60;
+  for (int letters = 1; letters <= kMost; ++letters)
+    list->AddRow({"", "", QString(letters, 'l').toStdString()});
+  QApplication::processEvents();
+  auto& view = Find<QTableView>("lbContaining");
+  for (int letters = 1; letters <= kMost; ++letters) {
+    const QModelIndex cell = view.model()->index(letters - 1, 2);
+    view.scrollTo(cell);
+    const QRect place = view.visualRect(cell);
+    if (!At(*view.viewport(), place.center()).empty()) {
+      EXPECT_GT(letters, 5);
+      return;
+    }
+    EXPECT_GT(HeightOfTheEnd(view.viewport()->grab(place).toImage()), 5)
+        << letters << " letters end with an ellipsis";
+  }
+  FAIL() << "no cell is cut";
 }
 
 TEST_F(Tips, TellACutCellWholeAndPlainHoweverItIsWritten) {

@@ -47,8 +47,8 @@ class RowDelegate final : public QStyledItemDelegate {
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     const QString whole = index.data(Qt::ToolTipRole).toString();
-    const bool fits = cell.fontMetrics.horizontalAdvance(cell.text) <= RoomIn(cell);
-    if (fits && cell.text.size() == whole.size()) return false;
+    const QString shown = cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, RoomIn(cell));
+    if (shown == displayText(whole, cell.locale)) return false;
     QToolTip::showText(event->globalPos(), ToolTipWithin(*view->screen(), whole), view->viewport(),
                        cell.rect);
     return true;
@@ -68,38 +68,30 @@ ListView::ListView(QWidget* parent) : QTableView(parent) {
   setItemDelegate(new RowDelegate(this));
   setSelectionBehavior(SelectRows);
   setSelectionMode(SingleSelection);
-  setEditTriggers(NoEditTriggers);
   setTabKeyNavigation(false);
   setShowGrid(false);
-  setWordWrap(false);
-  setCornerButtonEnabled(false);
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   horizontalHeader()->hide();
   horizontalHeader()->setMinimumSectionSize(0);
   verticalHeader()->hide();
-  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  SetRowHeight();
 }
 
 void ListView::SetColumnShares(std::vector<int> shares) {
   shares_ = std::move(shares);
   ShareWidth();
-  updateGeometries();
   viewport()->update();
 }
 
 QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
   // In a table, Home and End alone would stay in the row.
-  if (action == MoveHome) return model()->index(0, 0);
-  if (action == MoveEnd) return model()->index(model()->rowCount() - 1, 0);
-  return QTableView::moveCursor(action, modifiers);
+  const bool to_an_end = action == MoveHome || action == MoveEnd;
+  return QTableView::moveCursor(action, to_an_end ? Qt::ControlModifier : modifiers);
 }
 
 void ListView::keyPressEvent(QKeyEvent* event) {
   const bool arrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
   if (event->key() == Qt::Key_Escape && selectionModel()->hasSelection()) {
     TakeSelectionBack();
-  } else if (arrow && !selectionModel()->hasSelection() && model()->rowCount() > 0) {
+  } else if (arrow && !selectionModel()->hasSelection()) {
     // The first arrow chooses the row that stands under the focus, not the one after it.
     selectRow(std::max(currentIndex().row(), 0));
   } else {

@@ -15,12 +15,12 @@ namespace {
 /// The widths as the view wants them, as far as the last column that has one; a column that the
 /// list gives no width has none.
 std::vector<int> Shares(const Listbox& list) {
-  std::vector<int> shares(static_cast<std::size_t>(list.ColumnCount()));
+  std::vector<int> shares;
   const auto widths = Split(list.ColumnWidths(), ",");
-  const auto last = static_cast<std::int64_t>(shares.size()) - 1;
-  for (std::int64_t i = 0; i <= std::min(last, widths.LastIndex()); ++i) {
-    shares[static_cast<std::size_t>(i)] = static_cast<int>(Val(widths[i]) * 10);
+  for (const String& width : widths._Items()) {
+    shares.push_back(static_cast<int>(Val(width) * 10));
   }
+  shares.resize(static_cast<std::size_t>(list.ColumnCount()));
   while (!shares.empty() && shares.back() == 0) shares.pop_back();
   return shares;
 }
