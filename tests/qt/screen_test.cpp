@@ -18,6 +18,12 @@ TEST(RandomClicksOnScreen, AgreeWithTheOracleAndTheScreenFollows) { Monkey<QtHan
 
 using Screen = Behaviour<QtHand>;
 
+/// Where a picture differs from its first pixel.
+QRect Ink(const QImage& picture) {
+  const QImage mask = picture.createMaskFromColor(picture.pixel(0, 0), Qt::MaskInColor);
+  return QRegion(QBitmap::fromImage(mask)).boundingRect();
+}
+
 TEST_F(Screen, EveryControlStandsAtItsPlaceAndStaysThere) {
   Open();
   EXPECT_EQ(Native().centralWidget()->size(), QSize(615, 605));
@@ -60,6 +66,44 @@ TEST_F(Screen, LargerLettersFitTheSamePlaces) {
   EXPECT_LT(Find("pmRoot").font().stretch(), 100) << "condensed";
 }
 
+TEST_F(Screen, CaptionRunsOnAsFarAsItsNeighbour) {
+  Open();
+  QWidget& box = Find("cbOther");
+  const auto other = window_->cbOther();
+  other->Caption(std::string(100, 'm'));
+  EXPECT_EQ(box.x() + box.width() + 4, Find("lbExact").x());
+  EXPECT_EQ(box.font().stretch(), 60) << "condensed, and cut";
+  other->Caption("m");
+  EXPECT_EQ(box.width(), other->Width());
+  EXPECT_EQ(box.font().stretch(), 100);
+  other->Caption(std::string(15, 'm'));
+  other->Bold(true);
+  EXPECT_LE(box.sizeHint().width(), box.width()) << "bold letters are wider";
+}
+
+TEST_F(Screen, ControlsMadeLateComeOnIt) {
+  Open();
+  const auto star = window_->__New<window::lbStarClass>();
+  star->Constructor();
+  star->Top(window_->cbScale(0)->Top() - 10);  // its middle is level with the box's upper edge
+  star->Visible(true);
+  QWidget& label = *Native().findChildren<QWidget*>("lbStar0").back();
+  const auto ink_of_star = [&label] { return Ink(label.grab().toImage()); };
+  QApplication::processEvents();
+  const QRect ink = ink_of_star();
+  const CountOfPaintings paintings(label);
+  const auto box = window_->__New<window::cbScaleClass>();
+  box->Constructor();
+  QApplication::processEvents();
+  EXPECT_EQ(paintings.count, 1);
+  EXPECT_EQ(ink_of_star().size(), ink.size()) << "whole";
+  EXPECT_EQ(ink_of_star().bottom(), label.height() - 1) << "as low as its frame allows";
+  Find("cbScale0").setFocus();
+  QtHand::Press(Find("cbScale0"), Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget()->objectName(), "cbScale0") << "the second of that name";
+  EXPECT_NE(QApplication::focusWidget(), &Find("cbScale0"));
+}
+
 TEST_F(Screen, StarIsWholeAndGreenInItsStrip) {
   Open();
   hand_->Tick(0);
@@ -68,8 +112,7 @@ TEST_F(Screen, StarIsWholeAndGreenInItsStrip) {
     QWidget& label = Find("lbStar" + std::string(member));
     const QRect box = Find("cbScale" + std::string(member)).geometry();
     const QImage star = label.grab().toImage();
-    const QImage mask = star.createMaskFromColor(star.pixel(0, 0), Qt::MaskInColor);
-    const QRect ink = QRegion(QBitmap::fromImage(mask)).boundingRect();
+    const QRect ink = Ink(star);
     EXPECT_GE(ink.width(), 10) << "large";
     EXPECT_TRUE(QRect(0, 1, 15, 19).contains(ink)) << "whole";
     EXPECT_LE(std::abs(label.y() + ink.center().y() - box.center().y()), 1) << "level with its box";

@@ -66,11 +66,18 @@ void ControlPeer::Build() {
 }
 
 void ControlPeer::Changed(Change what) {
-  if (what == Change::Frame) Place();
   if (what == Change::Look) Look();
   if (what == Change::Visible) widget_->setVisible(control_->Visible());
   Show(what);
-  if (what == Change::Caption || what == Change::Text) Place();
+  switch (what) {
+    case Change::Frame:
+    case Change::Look:
+    case Change::Caption:
+    case Change::Text:
+      return Place();
+    default:
+      return;
+  }
 }
 
 void ControlPeer::Title(const QString&, ControlPeer&) {}

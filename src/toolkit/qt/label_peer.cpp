@@ -35,9 +35,9 @@ class InkLabel final : public QLabel {
     QPainterPath outline;
     outline.addText({}, font(), text());
     const QRectF ink = outline.boundingRect();
-    const double half = std::min(ink.height(), 1.0 * height()) / 2;
-    const QPointF middle(width() / 2.0,
-                         std::clamp(middle_.value_or(height() / 2.0), half, height() - half));
+    const double half = ink.height() / 2;
+    const double level = std::min(middle_.value_or(height() / 2.0), height() - half);
+    const QPointF middle(width() / 2.0, std::max(level, half));
     painter.drawText(middle - ink.center(), text());
   }
 
