@@ -3,6 +3,7 @@
 
 #include "qt/qt_hand.h"
 #include "support/behaviour.h"
+#include "toolkit/qt/menu_builder.h"
 
 // What each key and each mouse button does.
 
@@ -62,9 +63,12 @@ TEST_F(Input, RowsAreChosenByKeysAndLetGoByMouse) {
   EXPECT_LT(row_after(Qt::Key_PageUp), 45);
   EXPECT_EQ(row_after(Qt::Key_Home), 0);
   EXPECT_GT(row_after(Qt::Key_PageDown), 2);
-  hand_->ChooseRow(2);
-  QtHand::ClickRow("lbContaining", 2, Qt::ControlModifier);
-  EXPECT_EQ(window_->lbContaining()->ListIndex(), -1) << "with the Ctrl key";
+  for (const Qt::Key arrow : {Qt::Key_Up, Qt::Key_Down}) {
+    hand_->ChooseRow(2);
+    QtHand::ClickRow("lbContaining", 2, Qt::ControlModifier);
+    EXPECT_EQ(window_->lbContaining()->ListIndex(), -1) << "with the Ctrl key";
+    EXPECT_EQ(row_after(arrow), 2) << "where the focus is";
+  }
   hand_->TickOther();
   hand_->ChooseRow(2);
   QtHand::Click(*list.viewport(), list.viewport()->rect().bottomLeft());
@@ -103,6 +107,23 @@ TEST_F(Input, OnlyTheMainButtonDoesAnything) {
     EXPECT_EQ(window_->lbContaining()->ListIndex(), 0);
   }
   EXPECT_FALSE(window_->cbScale(2)->Value());
+}
+
+TEST_F(Input, MenusAreHiddenAndDisabledAsTheirItemsAre) {
+  Open();
+  const auto bar = RuntimeNewObject<framework::MenuBar>();
+  const auto shown = RuntimeNewObject<MenuItem>();
+  shown->Visible(true);
+  shown->Append(RuntimeNewObject<MenuItem>());
+  bar->Append(shown);
+  bar->Append(RuntimeNewObject<MenuItem>());
+  QMenuBar native;
+  toolkit::qt::BuildMenuBar(*bar, native);
+  const auto titles = native.actions();
+  EXPECT_TRUE(titles[0]->isVisible());
+  EXPECT_FALSE(titles[0]->isEnabled());
+  EXPECT_FALSE(titles[0]->menu()->actions()[0]->isVisible());
+  EXPECT_FALSE(titles[1]->isVisible());
 }
 
 TEST_F(Input, MenusOpenByTheirLettersAndClosingEndsTheRun) {

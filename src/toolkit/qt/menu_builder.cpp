@@ -18,6 +18,11 @@ QKeySequence Shortcut(const MenuItem& item) {
   return Shown(item.KeyboardShortcut()).replace(QLatin1String("Cmd+"), QLatin1String("Ctrl+"));
 }
 
+void ShowAs(const MenuItem& item, QAction& action) {
+  action.setEnabled(item.Enabled());
+  action.setVisible(item.Visible());
+}
+
 void AddEntry(const Ref<MenuItem>& item, QMenu& menu) {
   if (item->Text() == std::string_view("-")) {
     menu.addSeparator();
@@ -26,8 +31,7 @@ void AddEntry(const Ref<MenuItem>& item, QMenu& menu) {
   QAction* const action = menu.addAction(Shown(item->Text()));
   action->setObjectName(Shown(item->Name()));
   action->setShortcut(Shortcut(*item));
-  action->setEnabled(item->Enabled());
-  action->setVisible(item->Visible());
+  ShowAs(*item, *action);
   Connect(action, &QAction::triggered, &menu, [item] { item->Choose(); });
 }
 
@@ -37,13 +41,11 @@ void BuildMenuBar(MenuBar& bar, QMenuBar& native) {
   bar._DisableEntirely();
   bar._SelfEnable();
   const auto titles = bar._Children();
-  for (std::int64_t i = 0; i <= titles.LastIndex(); ++i) {
-    QMenu* const menu = native.addMenu(Shown(titles[i]->Text()));
-    menu->setObjectName(Shown(titles[i]->Name()));
-    menu->menuAction()->setEnabled(titles[i]->Enabled());
-    menu->menuAction()->setVisible(titles[i]->Visible());
-    const auto entries = titles[i]->_Children();
-    for (std::int64_t k = 0; k <= entries.LastIndex(); ++k) AddEntry(entries[k], *menu);
+  for (const Ref<MenuItem>& title : titles._Items()) {
+    QMenu* const menu = native.addMenu(Shown(title->Text()));
+    ShowAs(*title, *menu->menuAction());
+    const auto items = title->_Children();
+    for (const Ref<MenuItem>& item : items._Items()) AddEntry(item, *menu);
   }
 }
 
