@@ -97,6 +97,7 @@ TEST_F(Input, OnlyTheMainButtonDoesAnything) {
     popup.showPopup();
     QWidget& rows = *popup.view()->viewport();
     const QPoint last = popup.view()->visualRect(popup.model()->index(11, 0)).center();
+    EXPECT_TRUE(rows.rect().contains(last)) << "all rows show";
     QTest::mouseMove(&rows, last);
     QTest::qWait(10);
     QTest::mouseClick(&rows, button, {}, last);

@@ -25,6 +25,7 @@ TEST_F(Lists, ListsHaveThreeColumnsAndAreRefreshedOnce) {
   EXPECT_EQ(model.rowCount(model.index(0, 0)), 0);
   EXPECT_EQ(model.columnCount(model.index(0, 0)), 0);
   list.scrollToBottom();
+  EXPECT_GT(list.rowAt(0), 0);
   hand_->Tick(0);
   EXPECT_EQ(list.verticalScrollBar()->value(), 0);
   ASSERT_GT(list.verticalScrollBar()->maximum(), 0);
@@ -67,6 +68,9 @@ TEST_F(Lists, ColumnsReachToTheFrameOrToTheScrollBar) {
       }
     }
   }
+  const int hidden = bar.maximum();
+  window_->lbContaining()->Height(100);
+  EXPECT_GT(bar.maximum(), hidden) << "a lower list scrolls further";
 }
 
 TEST_F(Lists, BytesThatAreNoTextShowAsSuch) {
@@ -89,9 +93,15 @@ TEST_F(Lists, TextWithLineBreaksStandsOnOneLine) {
   };
   EXPECT_EQ(picture(0), picture(2));
   EXPECT_EQ(picture(1), picture(2));
-  QImage ground = picture(3);
+  const QRect empty =
+      list.visualRect(list.model()->index(3, 0)) | list.visualRect(list.model()->index(3, 2));
+  const QImage row = list.viewport()->grab(empty).toImage();
+  QImage ground = row;
   ground.fill(ground.pixel(0, 0));
-  EXPECT_EQ(picture(3), ground) << "an empty cell, without a grid";
+  EXPECT_EQ(row, ground) << "no grid";
+  EXPECT_LT(list.rowHeight(0), 20);
+  window_->lbContaining()->TextSize(30);
+  EXPECT_GT(list.rowHeight(0), 30) << "as high as its letters";
 }
 
 }  // namespace

@@ -26,6 +26,7 @@ QRect Ink(const QImage& picture) {
 
 TEST_F(Screen, EveryControlStandsAtItsPlaceAndStaysThere) {
   Open();
+  EXPECT_EQ(Native().windowTitle().toStdString(), Text(window_->Title()));
   EXPECT_EQ(Native().centralWidget()->size(), QSize(615, 605));
   for (const QSize size : {Native().size(), QSize(64, 64), QSize(1200, 1000)}) {
     Native().resize(size);
@@ -63,7 +64,8 @@ TEST_F(Screen, LargerLettersFitTheSamePlaces) {
     EXPECT_LT(widget.geometry().right(), Find("lbExact").x()) << name;
   }
   EXPECT_EQ(Find("pmRoot").size(), QSize(80, 20));
-  EXPECT_LT(Find("pmRoot").font().stretch(), 100) << "condensed";
+  const int stretch = Find("pmRoot").font().stretch();
+  EXPECT_TRUE(stretch >= 60 && stretch < 100) << "condensed: " << stretch;
 }
 
 TEST_F(Screen, CaptionRunsOnAsFarAsItsNeighbour) {
@@ -142,7 +144,10 @@ TEST_F(Screen, ListsHaveAllFourLinesOfTheirFrame) {
       const int right = qRound(scale * (corner.x() + Find(name).width())) - 1;
       const int bottom = qRound(scale * (corner.y() + Find(name).height())) - 1;
       const QRgb line = picture.pixel(left, top);
+      const int thick = static_cast<int>(scale);
       EXPECT_NE(line, picture.pixel(left - 1, top - 1));
+      EXPECT_EQ(line, picture.pixel(left + thick - 1, top + thick - 1));
+      EXPECT_NE(line, picture.pixel(left + thick, top + thick));
       int missing = 0;
       for (int x = left; x <= right; ++x) {
         missing += (picture.pixel(x, top) != line) + (picture.pixel(x, bottom) != line);
@@ -165,6 +170,30 @@ TEST_F(Screen, BoxesHaveOutlinesOnABlackGround) {
     for (int y = 0; y < picture.height(); ++y) light += picture.pixelColor(0, y).lightness() > 100;
     EXPECT_GE(light, 10) << name;
   }
+}
+
+TEST_F(Screen, FocusIsALineAroundAListAndAroundACaption) {
+  Open();
+  const QColor highlight = QApplication::palette().color(QPalette::Highlight);
+  const auto highlighted = [&highlight](const char* name) {
+    const QImage picture = Find(name).grab().toImage();
+    int points = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x) points += picture.pixelColor(x, y) == highlight;
+    }
+    return points;
+  };
+  for (const char* const name : {"lbExact", "cbOther"}) {
+    EXPECT_EQ(highlighted(name), 0) << name;
+    Find(name).setFocus();
+    EXPECT_GE(highlighted(name), 200) << name;
+  }
+  const CountOfPaintings paintings(*Find<QTableView>("lbExact").viewport());
+  for (const char* const name : {"lbExact", "cbOther"}) {
+    Find(name).setFocus();
+    QApplication::processEvents();
+  }
+  EXPECT_EQ(paintings.count, 2);
 }
 
 /// An application that notes what the notification centre tells.

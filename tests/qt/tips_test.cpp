@@ -80,21 +80,22 @@ TEST_F(Tips, TellOfEachCellThatIsCut) {
   Open();
   const auto list = window_->lbContaining();
   list->HelpTag("");
-  constexpr int kMost = 60;
-  for (int letters = 1; letters <= kMost; ++letters)
-    list->AddRow({"", "", QString(letters, 'l').toStdString()});
+  const std::string text = "lithe monks will jog for a fair quiz of black vowels";
+  for (std::size_t end = 1; end < text.size(); ++end) {
+    list->AddRow({"", "", text.substr(0, end) + "l"});
+  }
   QApplication::processEvents();
   auto& view = Find<QTableView>("lbContaining");
-  for (int letters = 1; letters <= kMost; ++letters) {
-    const QModelIndex cell = view.model()->index(letters - 1, 2);
+  for (int row = 0; row < view.model()->rowCount(); ++row) {
+    const QModelIndex cell = view.model()->index(row, 2);
     view.scrollTo(cell);
     const QRect place = view.visualRect(cell);
     if (!At(*view.viewport(), place.center()).empty()) {
-      EXPECT_GT(letters, 5);
+      EXPECT_GT(row, 5);
       return;
     }
     EXPECT_GT(HeightOfTheEnd(view.viewport()->grab(place).toImage()), 5)
-        << letters << " letters end with an ellipsis";
+        << row << " ends with an ellipsis";
   }
   FAIL() << "no cell is cut";
 }

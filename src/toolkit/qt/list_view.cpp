@@ -123,7 +123,7 @@ void ListView::scrollContentsBy(int dx, int dy) {
 
 void ListView::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
-  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) SetRowHeight();
+  if (event->type() == QEvent::FontChange) SetRowHeight();
 }
 
 void ListView::focusInEvent(QFocusEvent* event) {
@@ -131,12 +131,6 @@ void ListView::focusInEvent(QFocusEvent* event) {
   // a screen reader would be told of no row.
   if (!currentIndex().isValid()) setCurrentIndex({});
   QTableView::focusInEvent(event);
-  viewport()->update();
-}
-
-void ListView::focusOutEvent(QFocusEvent* event) {
-  QTableView::focusOutEvent(event);
-  viewport()->update();
 }
 
 void ListView::TakeSelectionBack() {
@@ -154,7 +148,6 @@ void ListView::SetRowHeight() {
   option.features = QStyleOptionViewItem::HasDisplay;
   option.text = QStringLiteral("X");
   const int height = style()->sizeFromContents(QStyle::CT_ItemViewItem, &option, {}, this).height();
-  verticalHeader()->setMinimumSectionSize(0);
   verticalHeader()->setDefaultSectionSize(height);
 }
 

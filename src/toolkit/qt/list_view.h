@@ -25,7 +25,6 @@ class ListView final : public QTableView {
   void scrollContentsBy(int dx, int dy) override;
   void changeEvent(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
-  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   void TakeSelectionBack();

@@ -68,8 +68,8 @@ void PopupMenuPeer::Show(Change what) {
   if (what == Change::Rows) {
     widget_->clear();
     const auto rows = menu_->Rows();
-    for (std::int64_t i = 0; i <= rows.LastIndex(); ++i) widget_->addItem(Shown(rows[i]));
-    widget_->setMaxVisibleItems(static_cast<int>(rows.LastIndex()) + 1);
+    for (const framework::String& row : rows._Items()) widget_->addItem(Shown(row));
+    widget_->setMaxVisibleItems(widget_->count());
   }
   if (what == Change::Rows || what == Change::ListIndex) {
     widget_->setCurrentIndex(static_cast<int>(menu_->ListIndex()));
