@@ -29,13 +29,14 @@ TEST_F(Lists, ListsHaveThreeColumnsAndAreRefreshedOnce) {
   hand_->Tick(0);
   EXPECT_EQ(list.verticalScrollBar()->value(), 0);
   ASSERT_GT(list.verticalScrollBar()->maximum(), 0);
-  const int room = list.columnWidth(1) * 2;
+  const int room = 385 - list.verticalScrollBar()->sizeHint().width();
   const CountOfPaintings paintings(*list.viewport());
-  window_->lbContaining()->ColumnWidths("2%,0%,98%");
+  window_->lbContaining()->ColumnWidths("2%,0%,62%,36%");
   QApplication::processEvents();
   EXPECT_EQ(paintings.count, 1);
   EXPECT_EQ(list.columnWidth(0), room * 2 / 100);
   EXPECT_TRUE(list.isColumnHidden(1));
+  EXPECT_EQ(list.columnWidth(2), room * 62 / 100);
   window_->lbContaining()->ColumnWidths("20%,20%,20%,20%,20%");
   EXPECT_EQ(model.columnCount(), 4) << "as many as it has";
 }

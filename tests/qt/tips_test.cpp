@@ -90,12 +90,13 @@ TEST_F(Tips, TellOfEachCellThatIsCut) {
     const QModelIndex cell = view.model()->index(row, 2);
     view.scrollTo(cell);
     const QRect place = view.visualRect(cell);
+    const int end = HeightOfTheEnd(view.viewport()->grab(place).toImage());
     if (!At(*view.viewport(), place.center()).empty()) {
+      EXPECT_LT(end, 5) << "an ellipsis";
       EXPECT_GT(row, 5);
       return;
     }
-    EXPECT_GT(HeightOfTheEnd(view.viewport()->grab(place).toImage()), 5)
-        << row << " ends with an ellipsis";
+    EXPECT_GT(end, 5) << row << " ends with an ellipsis";
   }
   FAIL() << "no cell is cut";
 }
@@ -112,7 +113,7 @@ TEST_F(Tips, TellACutCellWholeAndPlainHoweverItIsWritten) {
       QString(900, 'W'),
       "x" + QString(1500, QChar(0xE9)),
       QStringLiteral("e\u0301 ").repeated(500),
-      QStringLiteral("\U0001D11E").repeated(500),
+      "x" + QStringLiteral("\U0001D11E").repeated(500),
       letters,
   };
   const auto list = window_->lbContaining();

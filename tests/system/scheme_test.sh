@@ -23,13 +23,20 @@ dark='#1E1E1E'
 light='#EFEFEF'
 
 tell color-scheme 1
+tell accent-color 1 0.8 0
 start
 until_there 2000 "$dark" $ground
+until_there 5000 '#383838' 100 50 300 70       # a list
+until_there 20 '#EEEEEE' 100 370 50 180        # the notes' names
+xdotool key alt+e
+window=root until_there 20 '#8C8C8C' 150 125 68 0  # a menu's entries, which are disabled
+xdotool key Escape
 click 38 200
 click 300 218
 until_there 8 "$green" 15 20 15 188
 chosen='60 6 280 215'
-until_there 200 '#308CC6' $chosen
+until_there 200 '#FFCC00' $chosen
+until_there 20 '#000000' 120 14 210 211        # its letters
 
 tell color-scheme 2
 until_there 2000 "$light" $ground

@@ -34,7 +34,7 @@ class RowDelegate final : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
     option->state &= ~QStyle::State_HasFocus;
-    if (option->fontMetrics.horizontalAdvance(option->text) <= RoomIn(*option)) return;
+    if (Fits(*option)) return;
     option->font = Condensed(option->font, RoomIn(*option), [&](const QFont& font) {
       option->fontMetrics = QFontMetrics(font);
       return option->fontMetrics.horizontalAdvance(option->text);
@@ -47,14 +47,16 @@ class RowDelegate final : public QStyledItemDelegate {
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     const QString whole = index.data(Qt::ToolTipRole).toString();
-    const QString shown = cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, RoomIn(cell));
-    if (shown == displayText(whole, cell.locale)) return false;
+    if (Fits(cell) && cell.text == displayText(whole, cell.locale)) return false;
     QToolTip::showText(event->globalPos(), ToolTipWithin(*view->screen(), whole), view->viewport(),
                        cell.rect);
     return true;
   }
 
  private:
+  static bool Fits(const QStyleOptionViewItem& cell) {
+    return cell.fontMetrics.horizontalAdvance(cell.text) <= RoomIn(cell);
+  }
   static int RoomIn(const QStyleOptionViewItem& cell) {
     const QStyle& style = *cell.widget->style();
     const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &cell, cell.widget) + 1;
@@ -134,9 +136,7 @@ void ListView::focusInEvent(QFocusEvent* event) {
 }
 
 void ListView::TakeSelectionBack() {
-  clearSelection();
   setCurrentIndex({});
-  if (!hasFocus()) return;
   // A screen reader goes back to the list, or it would be silent when the same row is chosen again.
   QAccessibleEvent left(this, QAccessible::Focus);
   QAccessible::updateAccessibility(&left);
@@ -163,7 +163,7 @@ void ListView::ShareWidth() {
   for (int column = 0; column <= last; ++column) {
     const int share = room * shares_[static_cast<std::size_t>(column)] / 1000;
     setColumnHidden(column, share == 0);
-    if (share > 0) setColumnWidth(column, column < last ? share : viewport()->width() - end);
+    setColumnWidth(column, column < last ? share : viewport()->width() - end);
     end += share;
   }
 }

@@ -76,15 +76,13 @@ std::unique_ptr<WindowPeer> QtToolkit::Show(const Ref<Window>& window) {
 }
 
 void QtToolkit::Run() {
-  running_ = true;
   if (!quit_) QApplication::exec();
-  running_ = quit_ = false;
+  quit_ = false;
 }
 
 void QtToolkit::Quit() {
-  // Told before its first loop, Qt would end that of a box.
-  quit_ = true;
-  if (running_) QApplication::exit(EXIT_SUCCESS);
+  quit_ = true;  // before the loop has begun, there is none that could be told
+  QApplication::exit(EXIT_SUCCESS);
 }
 
 void QtToolkit::ShowMessage(const String& text) { Tell(QMessageBox::Warning, text); }

@@ -42,7 +42,6 @@ class QtToolkit : public framework::Toolkit {
   char* arguments_[2] = {name_.data(), nullptr};
   std::unique_ptr<QApplication> application_;
   MessageBoxes boxes_{QString::fromStdString(name_)};
-  bool running_ = false;
   bool quit_ = false;
 };
 

@@ -12,14 +12,14 @@ inline QString Shown(const framework::String& text) {
   return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
 }
 
-/// The same of no more than so many bytes at the text's beginning; no character is cut.
+/// The same of no more than so many bytes at the text's beginning, at least 3; no character is cut.
 inline QString Shown(const framework::String& text, std::size_t most) {
   const std::string_view bytes = text.View();
   if (bytes.size() <= most) return Shown(text);
   const auto goes_on = [&](std::size_t i) { return (bytes[i] & 0xC0) == 0x80; };
   // A character has up to three bytes behind its first. Where there are more, they are no text.
   std::size_t end = most;
-  while (end > 0 && most - end < 3 && goes_on(end)) --end;
+  while (most - end < 3 && goes_on(end)) --end;
   return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(end));
 }
 
