@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QBitmap>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QMainWindow>
@@ -39,6 +40,12 @@ Widget& Find(const std::string& name) {
   auto* const widget = Native().findChild<Widget*>(QString::fromStdString(name));
   if (widget == nullptr) throw std::runtime_error("no widget " + name);
   return *widget;
+}
+
+/// Where a picture differs from its first pixel.
+inline QRect Ink(const QImage& picture) {
+  const QImage mask = picture.createMaskFromColor(picture.pixel(0, 0), Qt::MaskInColor);
+  return QRegion(QBitmap::fromImage(mask)).boundingRect();
 }
 
 /// How often a widget is painted.

@@ -1,6 +1,3 @@
-#include <QBitmap>
-#include <QScreen>
-#include <QScrollBar>
 #include <QTranslator>
 
 #include "qt/qt_hand.h"
@@ -20,12 +17,6 @@ INSTANTIATE_TYPED_TEST_SUITE_P(OnQt, Behaviour, QtHand);
 TEST(RandomClicksOnScreen, AgreeWithTheOracleAndTheScreenFollows) { Monkey<QtHand>::Play(200); }
 
 using Screen = Behaviour<QtHand>;
-
-/// Where a picture differs from its first pixel.
-QRect Ink(const QImage& picture) {
-  const QImage mask = picture.createMaskFromColor(picture.pixel(0, 0), Qt::MaskInColor);
-  return QRegion(QBitmap::fromImage(mask)).boundingRect();
-}
 
 TEST_F(Screen, EveryControlStandsAtItsPlaceAndStaysThere) {
   Open();
@@ -146,88 +137,6 @@ TEST_F(Screen, StarIsWholeAndGreenInItsStrip) {
     }
     EXPECT_GE(green, 5) << "whatever the font draws at the very middle";
   }
-}
-
-/// Runs at fractional scales too.
-TEST_F(Screen, ListsHaveAllFourLinesOfTheirFrame) {
-  Open();
-  hand_->TickOther();
-  for (const bool dark : {false, true}) {
-    if (dark) hand_->ChangeAppearance();
-    const QImage picture = Native().grab().toImage();
-    const double scale = picture.devicePixelRatio();
-    for (const char* const name : {"lbExact", "lbContaining"}) {
-      SCOPED_TRACE(name);
-      const QPoint corner = Find(name).mapTo(&Native(), QPoint(0, 0));
-      const int left = qRound(scale * corner.x());
-      const int top = qRound(scale * corner.y());
-      const int right = qRound(scale * (corner.x() + Find(name).width())) - 1;
-      const int bottom = qRound(scale * (corner.y() + Find(name).height())) - 1;
-      const QRgb line = picture.pixel(left, top);
-      const int thick = static_cast<int>(scale);
-      EXPECT_NE(line, picture.pixel(left - 1, top - 1));
-      EXPECT_EQ(line, picture.pixel(left + thick - 1, top + thick - 1));
-      EXPECT_NE(line, picture.pixel(left + thick, top + thick));
-      int missing = 0;
-      for (int x = left; x <= right; ++x) {
-        missing += (picture.pixel(x, top) != line) + (picture.pixel(x, bottom) != line);
-      }
-      for (int y = top; y <= bottom; ++y) {
-        missing += (picture.pixel(left, y) != line) + (picture.pixel(right, y) != line);
-      }
-      EXPECT_EQ(missing, 0);
-    }
-  }
-}
-
-TEST_F(Screen, BoxesHaveOutlinesOnABlackGround) {
-  Open();
-  hand_->ChangeAppearance();
-  Find("cbOther").setFocus();
-  for (const char* const name : {"cbScale0", "lbExact", "pmRoot"}) {
-    const QImage picture = Find(name).grab().toImage();
-    int light = 0;
-    for (int y = 0; y < picture.height(); ++y) light += picture.pixelColor(0, y).lightness() > 100;
-    EXPECT_GE(light, 10) << name;
-  }
-}
-
-TEST_F(Screen, FocusIsALineAroundAListAndAroundACaption) {
-  Open();
-  const QColor highlight = QApplication::palette().color(QPalette::Highlight);
-  const auto highlighted = [&highlight](const char* name) {
-    const QImage picture = Find(name).grab().toImage();
-    int points = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-      for (int x = 0; x < picture.width(); ++x) points += picture.pixelColor(x, y) == highlight;
-    }
-    return points;
-  };
-  for (const char* const name : {"lbExact", "cbOther"}) {
-    EXPECT_EQ(highlighted(name), 0) << name;
-    Find(name).setFocus();
-    EXPECT_GE(highlighted(name), 200) << name;
-  }
-  Find("lbExact").setFocus();
-  EXPECT_EQ(highlighted("lbExact"), 2 * (385 + 93) - 4) << "one point thick";
-  Find("cbOther").setFocus();
-  QApplication::processEvents();
-  const CountOfPaintings paintings(*Find<QTableView>("lbExact").viewport());
-  for (const char* const name : {"lbExact", "cbOther"}) {
-    Find(name).setFocus();
-    QApplication::processEvents();
-  }
-  EXPECT_EQ(paintings.count, 2);
-
-  hand_->TickOther();
-  auto& list = Find<QTableView>("lbContaining");
-  list.setFocus();
-  QApplication::processEvents();
-  list.verticalScrollBar()->setValue(5);
-  QApplication::processEvents();
-  const QRect place(list.mapTo(&Native(), QPoint()), list.size());
-  const QPixmap screen = Native().screen()->grabWindow(Native().winId());
-  EXPECT_EQ(screen.copy(place).toImage(), Native().grab(place).toImage()) << "the line does not scroll";
 }
 
 /// An application that notes what the notification centre tells.

@@ -6,6 +6,7 @@
 
 #include "qt/qt_hand.h"
 #include "support/behaviour.h"
+#include "toolkit/qt/tool_tip.h"
 
 // What the pointer is told, wherever it rests.
 
@@ -129,22 +130,41 @@ TEST_F(Tips, TellACutCellWholeAndPlainHoweverItIsWritten) {
   }
 }
 
+TEST_F(Tips, BreakAWordOfMoreThanFortyLettersBetweenThem) {
+  const QString gap(QChar(0x200B));
+  const QString word(40, 'm');
+  EXPECT_FALSE(toolkit::qt::ToolTip(word + " " + word).contains(gap));
+  for (const QString& first : {word, word.chopped(1) + "\U0001D11E", word + "\u0301"}) {
+    const QString tip = toolkit::qt::ToolTip(first + word + "m");
+    EXPECT_TRUE(tip.contains(">" + first + gap + word + gap + "m<")) << tip.toStdString();
+  }
+}
+
 TEST_F(Tips, AreNoHigherThanTheScreen) {
   Open();
+  const QScreen& screen = *Native().screen();
+  QFont larger = QToolTip::font();
+  larger.setPixelSize(20);
+  QToolTip::setFont(larger);
+  QString high;
+  for (QString more; !toolkit::qt::ToolTipWithin(screen, more).contains(QChar(0x2026));) {
+    high = more;
+    more += QStringLiteral("a\u2028");
+  }
   const QString lines = QStringLiteral("a\u2028").repeated(10000);
   const auto list = window_->lbContaining();
-  list->AddRow({std::string(1 << 20, 'm'), lines.toStdString()});
+  list->AddRow({std::string(1 << 20, 'm'), lines.toStdString(), high.toStdString()});
   QApplication::processEvents();
   auto& view = Find<QTableView>("lbContaining");
-  for (const int column : {0, 1}) {
+  for (const int column : {0, 1, 2}) {
     const QPoint place = view.visualRect(view.model()->index(0, column)).center();
     const QString told = ReadAt(*view.viewport(), place);
-    const QSize screen = view.screen()->size();
-    EXPECT_LE(OfTip().height(), screen.height());
-    EXPECT_GT(OfTip().height(), screen.height() / 2);
-    EXPECT_LE(OfTip().width(), screen.width());
-    EXPECT_EQ(told.back(), QChar(0x2026));
+    EXPECT_LE(OfTip().height(), screen.size().height());
+    EXPECT_GT(OfTip().height(), screen.size().height() / 2);
+    EXPECT_LE(OfTip().width(), screen.size().width());
+    EXPECT_EQ(told.back() == QChar(0x2026), column < 2);
   }
+  QToolTip::setFont(QApplication::font());
 }
 
 }  // namespace

@@ -75,6 +75,7 @@ ListView::ListView(QWidget* parent) : QTableView(parent) {
   horizontalHeader()->hide();
   horizontalHeader()->setMinimumSectionSize(0);
   verticalHeader()->hide();
+  verticalHeader()->setMinimumSectionSize(0);
 }
 
 void ListView::SetColumnShares(std::vector<int> shares) {

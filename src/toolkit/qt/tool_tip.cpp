@@ -41,7 +41,6 @@ QString ToolTipWithin(const QScreen& screen, QString text) {
     QString tip = ToolTip(text);
     QTextDocument page;
     page.setDefaultFont(QToolTip::font());
-    page.setDocumentMargin(0);
     page.setHtml(tip);
     page.adjustSize();
     const double height = page.size().height();
