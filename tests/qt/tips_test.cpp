@@ -144,7 +144,7 @@ TEST_F(Tips, AreNoHigherThanTheScreen) {
   Open();
   const QScreen& screen = *Native().screen();
   QFont larger = QToolTip::font();
-  larger.setPixelSize(20);
+  larger.setPixelSize(17);
   QToolTip::setFont(larger);
   QString high;
   for (QString more; !toolkit::qt::ToolTipWithin(screen, more).contains(QChar(0x2026));) {

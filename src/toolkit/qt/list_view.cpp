@@ -126,7 +126,8 @@ void ListView::scrollContentsBy(int dx, int dy) {
 
 void ListView::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
-  if (event->type() == QEvent::FontChange) SetRowHeight();
+  if (event->type() != QEvent::FontChange) return;
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height());
 }
 
 void ListView::focusInEvent(QFocusEvent* event) {
@@ -141,15 +142,6 @@ void ListView::TakeSelectionBack() {
   // A screen reader goes back to the list, or it would be silent when the same row is chosen again.
   QAccessibleEvent left(this, QAccessible::Focus);
   QAccessible::updateAccessibility(&left);
-}
-
-void ListView::SetRowHeight() {
-  QStyleOptionViewItem option;
-  initViewItemOption(&option);
-  option.features = QStyleOptionViewItem::HasDisplay;
-  option.text = QStringLiteral("X");
-  const int height = style()->sizeFromContents(QStyle::CT_ItemViewItem, &option, {}, this).height();
-  verticalHeader()->setDefaultSectionSize(height);
 }
 
 void ListView::ShareWidth() {

@@ -28,7 +28,6 @@ class ListView final : public QTableView {
 
  private:
   void TakeSelectionBack();
-  void SetRowHeight();
   void ShareWidth();
 
   std::vector<int> shares_;

@@ -77,7 +77,6 @@ std::unique_ptr<WindowPeer> QtToolkit::Show(const Ref<Window>& window) {
 
 void QtToolkit::Run() {
   if (!quit_) QApplication::exec();
-  quit_ = false;
 }
 
 void QtToolkit::Quit() {
