@@ -47,10 +47,14 @@ TEST_F(Guarded, TextsAreToldOneAfterTheOtherWhateverAskedForThem) {
 TEST_F(Guarded, FailureThatEndsTheProgramIsReadFirst) {
   folder_.Write(library::kFileName, kFourScales);
   std::vector<std::string> told;
-  toolkit_.before_the_window = [&told] {
-    QTimer::singleShot(50, [&told] {
-      for (int i = 0; i < 2; ++i) told.push_back(Read());
-    });
+  QTimer reader;
+  QObject::connect(&reader, &QTimer::timeout, [&told] {
+    if (Box() == nullptr) return;
+    told.push_back(Box()->text().toStdString());
+    Box()->accept();
+  });
+  toolkit_.before_the_window = [&reader] {
+    reader.start(20);
     // Before the loop, and so before its end, has begun.
     _RunEvent([] { throw std::runtime_error("odd"); });
     _RunEvent([] { throw std::runtime_error("odder"); });

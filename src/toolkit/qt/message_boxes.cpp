@@ -40,7 +40,6 @@ void MessageBoxes::ShowNext() {
   box_ = new QMessageBox(message.icon, title_, message.text, QMessageBox::Ok,
                          QApplication::activeWindow());
   box_->setTextFormat(Qt::PlainText);
-  box_->setModal(true);
   Connect(box_.get(), &QMessageBox::finished, box_.get(), [this] { box_->deleteLater(); });
   Connect(box_.get(), &QObject::destroyed, this,
           [this] { RunLater(this, [this] { ShowNext(); }); });
