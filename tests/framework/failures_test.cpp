@@ -34,16 +34,20 @@ TEST_F(Failures, AreReportedWhenNoOneTookThem) {
 
 TEST_F(Failures, WithTooLongAMessageAreToldWithAsMuchOfItAsFits) {
   const std::string fits(961, 'x');
-  const std::pair<std::string, std::string> messages[] = {
+  struct Case {
+    std::string message;
+    std::string told;
+  };
+  const Case cases[] = {
       {fits, fits},
       {fits + "x", fits},
       {fits.substr(1) + "é", fits.substr(1)},
       {fits.substr(2) + "éx", fits.substr(2) + "é"},
       {std::string(2000, '\x80'), ""},
   };
-  for (const auto& [message, told] : messages) {
-    EXPECT_EQ(Reported([&] { RuntimeRaiseException(KeyNotFoundException(message)); }),
-              "failure KeyNotFoundException: " + told + " (error number 0)");
+  for (const Case& each : cases) {
+    EXPECT_EQ(Reported([&] { RuntimeRaiseException(KeyNotFoundException(each.message)); }),
+              "failure KeyNotFoundException: " + each.told + " (error number 0)");
   }
 }
 

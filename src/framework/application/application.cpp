@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <climits>
 
 #include "framework/events/ui_trap.h"
@@ -19,9 +20,10 @@ void Application::_SetSupportsHiDPI(bool value) { supports_hidpi = value; }
 bool Application::_SupportsHiDPI() { return supports_hidpi; }
 
 Ref<FolderItem> Application::ExecutableFile() const {
-  char path[PATH_MAX]{};  // which stays empty, and so names nothing, if the system does not tell
-  [[maybe_unused]] const ssize_t size = readlink("/proc/self/exe", path, sizeof path);
-  return GetFolderItem(path);
+  char path[PATH_MAX];
+  // An empty path, which names nothing, if the system does not tell.
+  const ssize_t size = std::max<ssize_t>(readlink("/proc/self/exe", path, sizeof path), 0);
+  return GetFolderItem(std::string_view(path, static_cast<std::size_t>(size)));
 }
 
 Ref<framework::MenuBar> Application::MenuBar() const { return menu_bar_; }
