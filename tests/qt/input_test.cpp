@@ -69,6 +69,8 @@ TEST_F(Input, RowsAreChosenByKeysAndLetGoByMouse) {
     EXPECT_EQ(window_->lbContaining()->ListIndex(), -1) << "with the Ctrl key";
     EXPECT_EQ(row_after(arrow), 2) << "where the focus is";
   }
+  hand_->TakeChoiceBack();
+  EXPECT_EQ(row_after(Qt::Key_End), 47) << "with none chosen before";
   hand_->TickOther();
   hand_->ChooseRow(2);
   QtHand::Click(*list.viewport(), list.viewport()->rect().bottomLeft());

@@ -84,9 +84,15 @@ TEST_F(Lists, BytesThatAreNoTextShowAsSuch) {
 
 TEST_F(Lists, TextWithLineBreaksStandsOnOneLine) {
   Open();
-  for (const char* const name : {"do\u2028re\u2028mi", "do\nre\nmi", "do re mi", ""}) {
-    window_->lbContaining()->AddRow({"", name, ""});
-  }
+  const char* const names[] = {
+      "do\u2028re\u2028mi",
+      "do\nre\nmi",
+      "do re mi",
+      "marching marching marching marching marching marching",
+      "marching\u00A0marching\u00A0marching\u00A0marching\u00A0marching\u00A0marching",
+      "",
+  };
+  for (const char* const name : names) window_->lbContaining()->AddRow({"", name, ""});
   QApplication::processEvents();
   auto& list = Find<QTableView>("lbContaining");
   const auto picture = [&](int row) {
@@ -94,8 +100,9 @@ TEST_F(Lists, TextWithLineBreaksStandsOnOneLine) {
   };
   EXPECT_EQ(picture(0), picture(2));
   EXPECT_EQ(picture(1), picture(2));
+  EXPECT_EQ(picture(3), picture(4)) << "filled to its end, wherever a word ends";
   const QRect empty =
-      list.visualRect(list.model()->index(3, 0)) | list.visualRect(list.model()->index(3, 2));
+      list.visualRect(list.model()->index(5, 0)) | list.visualRect(list.model()->index(5, 2));
   const QImage row = list.viewport()->grab(empty).toImage();
   QImage ground = row;
   ground.fill(ground.pixel(0, 0));

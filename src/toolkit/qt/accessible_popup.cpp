@@ -34,7 +34,7 @@ class AccessiblePopup final : public QAccessibleWidget, public QAccessibleTextIn
     return index == 0 ? QAccessible::queryAccessibleInterface(popup_->view()) : nullptr;
   }
   int indexOfChild(const QAccessibleInterface* child) const override {
-    return child->object() == popup_->view() ? 0 : -1;
+    return child != nullptr && child->object() == popup_->view() ? 0 : -1;
   }
 
   QStringList actionNames() const override { return {showMenuAction(), pressAction()}; }

@@ -72,6 +72,7 @@ ListView::ListView(QWidget* parent) : QTableView(parent) {
   setSelectionMode(SingleSelection);
   setTabKeyNavigation(false);
   setShowGrid(false);
+  setWordWrap(false);
   horizontalHeader()->hide();
   horizontalHeader()->setMinimumSectionSize(0);
   verticalHeader()->hide();
@@ -86,8 +87,9 @@ void ListView::SetColumnShares(std::vector<int> shares) {
 
 QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
   // In a table, Home and End alone would stay in the row.
-  const bool to_an_end = action == MoveHome || action == MoveEnd;
-  return QTableView::moveCursor(action, to_an_end ? Qt::ControlModifier : modifiers);
+  if (action == MoveHome) return model()->index(0, 0);
+  if (action == MoveEnd) return model()->index(model()->rowCount() - 1, 0);
+  return QTableView::moveCursor(action, modifiers);
 }
 
 void ListView::keyPressEvent(QKeyEvent* event) {
