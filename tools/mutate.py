@@ -19,7 +19,7 @@ import sys
 
 FRAMEWORK = ["tests/framework_test", "tests/program_test", "tests/out_of_memory_test"]
 PROGRAM = ["tests/program_test", "tests/out_of_memory_test"]
-CHECKER = ["tests/check/check_test", "ctest --stop-on-failure -R ^checker"]
+CHECKER = ["tests/check/check_test", "ctest --stop-on-failure -R ^(checker|with_little)"]
 # The program on a real screen, a bus, a compositor: what no test program has.
 STARTED = ["ctest --stop-on-failure -R ^(on_a_real|following|with_little)"]
 SYSTEM = "../tree/tests/system/"
@@ -40,8 +40,8 @@ NOTICED_BY = {
     "src/menu": (["program_test"], PROGRAM[:1]),
     "src/window": (["program_test"], PROGRAM[:1] + ["ctest --stop-on-failure -R ^row_"]),
     "src/shell": (["program_test", "out_of_memory_test", *STARTED_TARGETS], PROGRAM + STARTED),
-    "src/check": (["check_test", "orrel-check-library"], CHECKER),
-    "src/toolkit/memory": (["program_test"], PROGRAM[:1]),
+    "src/check": (["check_test", *STARTED_TARGETS], CHECKER),
+    "src/toolkit/memory": (["framework_test", "program_test"], FRAMEWORK[:2]),
     "src/toolkit/qt": (["qt_test", *STARTED_TARGETS], ["tests/qt_test"] + ON_THE_DESKTOP),
     "src/toolkit/web": (["page-file"], PAGE),
     "src/page": (["page-file"], PAGE),
