@@ -1,5 +1,6 @@
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <cmath>
 
 #include "qt/qt_hand.h"
 #include "support/behaviour.h"
@@ -107,9 +108,10 @@ TEST_F(Lists, TextWithLineBreaksStandsOnOneLine) {
   QImage ground = row;
   ground.fill(ground.pixel(0, 0));
   EXPECT_EQ(row, ground) << "no grid";
-  EXPECT_EQ(list.rowHeight(0), list.fontMetrics().height());
-  window_->lbContaining()->TextSize(30);
-  EXPECT_EQ(list.rowHeight(0), list.fontMetrics().height());
+  for (const float size : {0.F, 12.F, 13.F, 15.F, 30.F}) {
+    window_->lbContaining()->TextSize(size);
+    EXPECT_EQ(list.rowHeight(0), std::ceil(QFontMetricsF(list.font()).height())) << size;
+  }
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ namespace framework {
 
 /// The object runtime and notification centre where the system has none of the kind: classes with
 /// methods, objects, and one centre that delivers what it is given. It has no inheritance, asks for
-/// no registration and releases no object.
+/// no registration, does not look whether a name is taken, and releases no object.
 class LocalObjectRuntime final : public ObjectRuntime {
  public:
   LocalObjectRuntime();

@@ -31,7 +31,9 @@ QPalette DarkPalette() {
     palette.setColor(role, text);
     palette.setColor(QPalette::Disabled, role, faint);
   }
+  // Those that a palette leaves to the theme, which may be a light one.
   palette.setColor(QPalette::Highlight, QColor(0x30, 0x8c, 0xc6));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
   return palette;
 }
 

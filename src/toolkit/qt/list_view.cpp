@@ -8,6 +8,7 @@
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <QToolTip>
+#include <QtMath>
 #include <algorithm>
 
 #include "toolkit/qt/condensed.h"
@@ -129,7 +130,8 @@ void ListView::scrollContentsBy(int dx, int dy) {
 void ListView::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
   if (event->type() != QEvent::FontChange) return;
-  verticalHeader()->setDefaultSectionSize(fontMetrics().height());
+  // Whole points for the sum of ascent and descent; QFontMetrics rounds each, and loses ink.
+  verticalHeader()->setDefaultSectionSize(qCeil(QFontMetricsF(font()).height()));
 }
 
 void ListView::focusInEvent(QFocusEvent* event) {
@@ -141,6 +143,7 @@ void ListView::focusInEvent(QFocusEvent* event) {
 
 void ListView::TakeSelectionBack() {
   setCurrentIndex({});
+  if (!hasFocus()) return;
   // A screen reader goes back to the list, or it would be silent when the same row is chosen again.
   QAccessibleEvent left(this, QAccessible::Focus);
   QAccessible::updateAccessibility(&left);
