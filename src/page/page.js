@@ -34,7 +34,7 @@
         { wasmBinary: code, library, signal, fail, quit, ...more }).catch(fail);
     at('desk').replaceChildren();
     at('ended').hidden = true;
-    report(name, '');
+    report(name, '', !!name);
     if (name) {
       await launch({ check: true });
       await new Promise(done => setTimeout(done, 50));  // for the eye to meet what was found
@@ -42,8 +42,12 @@
     if (!signal.aborted) await launch({});
   }
 
-  function report(name, summary) {
-    at('report').hidden = !name;
+  // What is said of a file, and whether it has been taken. The place of the summary stays, or a
+  // screen reader would not hear of what is written there.
+  function report(name, summary, taken) {
+    at('report').className = name && 'told';
+    at('report-title').hidden = !name;
+    at('report-rest').hidden = !taken;
     at('report-title').textContent = name;
     at('report-summary').textContent = summary;
     at('report-faults').replaceChildren();
@@ -56,15 +60,18 @@
   }
 
   async function open(file) {
-    if (!file) return;
     let bytes;
     try {
       bytes = await file.arrayBuffer();
     } catch (failure) {
-      return report(file.name, 'This file cannot be read.');
+      return report(file.name, 'This file cannot be read.', false);
     }
-    // One after the other, or what two checks find would stand in one report.
-    started = started.then(() => start(new Uint8Array(bytes), file.name));
+    await start(new Uint8Array(bytes), file.name);
+  }
+
+  // One after the other: the last one stays, and each report is of one file.
+  function queue(file) {
+    if (file) started = started.then(() => open(file));
   }
 
   // To ask for the width has the page laid out, so a page that is wide enough is not asked.
@@ -83,17 +90,16 @@
     }
   }
 
-  at('sorry').className = '';
   if (!runsCode()) return;
-  at('sorry').hidden = true;
+  document.documentElement.className = 'runs';
   at('offer').hidden = false;
   addEventListener('resize', fit);
   at('own').addEventListener('change', e => {
-    open(e.target.files[0]);
+    queue(e.target.files[0]);
     e.target.value = '';  // or the same file, once it is mended, would be no change
   });
   addEventListener('dragover', e => e.preventDefault());
-  addEventListener('drop', e => { e.preventDefault(); open(e.dataTransfer.files[0]); });
+  addEventListener('drop', e => { e.preventDefault(); queue(e.dataTransfer.files[0]); });
   fit();
 
   // In a script element, a few texts cannot stand as they are: a backslash stands in them.

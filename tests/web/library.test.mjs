@@ -74,9 +74,14 @@ async function drop(hand, path) {
   }, [...readFileSync(path)]);
 }
 const report = () => document.getElementById('report').innerText;
+/// What is said of a library stands before the window, where it was heard as it came.
+const isBefore = () => document.getElementById('report').getBoundingClientRect().bottom
+  <= document.getElementById('desk').getBoundingClientRect().top;
+const isHeard = () => document.getElementById('report-summary').checkVisibility();
 
 testInEach('a dropped library opens anew, and is not kept', async (hand, t) => {
   await hand.open(pageOn(fourScales));
+  assert.ok(await hand.page.run(isHeard));
   for (const [what, bytes, told, reported, rows] of dropped) {
     await t.test(what, async () => {
       await hand.tick(4);
@@ -86,6 +91,7 @@ testInEach('a dropped library opens anew, and is not kept', async (hand, t) => {
         const { ticked, lbContaining, value } = await hand.look();
         assert.deepEqual([ticked, lbContaining.count, value], [[], 0, ' ']);
         assert.match(await hand.page.run(report), reported);
+        assert.ok(await hand.page.run(isBefore));
         assert.equal(await hand.page.run(() => document.getElementById('tally').textContent), '');
       });
       await expectTold(hand, told);
@@ -101,6 +107,14 @@ testInEach('a dropped library opens anew, and is not kept', async (hand, t) => {
 testIn('Chromium', 'of two libraries dropped at once the last one stays', async (hand) => {
   await hand.open(pageOn(fourScales));
   await hand.page.run((texts) => {
+    const title = document.getElementById('report-title');
+    window.titles = [];
+    new MutationObserver(() => titles.push(title.textContent)).observe(title, { childList: true });
+    const read = File.prototype.arrayBuffer;
+    File.prototype.arrayBuffer = async function () {
+      if (this.name === 'library 0') await new Promise((done) => setTimeout(done, 300));  // a large one
+      return read.call(this);
+    };
     for (const [i, text] of texts.entries()) {
       const dataTransfer = new DataTransfer();
       dataTransfer.items.add(new File([text], `library ${i}`));
@@ -108,6 +122,7 @@ testIn('Chromium', 'of two libraries dropped at once the last one stays', async 
     }
   }, [library(major, 'Bank,short', 'Bank,shorter'), library(triad, 'Bank,too short')]);
   await eventually(async () => {
+    assert.deepEqual(await hand.page.run(() => titles), ['library 0', 'library 1']);
     assert.match(await hand.page.run(report), /^library 1\n/);
     await hand.look();
     assert.equal(await hand.page.run(() => document.querySelectorAll('#report li').length), 1);

@@ -69,6 +69,35 @@ testIn('Chromium', 'a finger chooses a row and lets it go', async (hand) => {
   await expectRow(hand, -1, 'a tap on the chosen row');
 });
 
+testIn('Chromium', 'rows follow the pointer', async (hand) => {
+  const { puppet, protocol } = hand.page;
+  const scales = [line('A long name '.repeat(9), '110000000000'), line('Short', '111000000000')];
+  await hand.open(pageOn(library(...scales, ...Array(60).fill(scales[1]))));
+  await hand.tick(0);
+  const row = (i) => puppet.$(`#lbContaining-row-${i}`);
+  const tips = () => puppet.$$eval('[role=gridcell][title]', (cells) => cells.map((cell) => cell.title));
+  const box = await (await row(0)).boundingBox();
+  const name = [box.x + box.width / 2, box.y + box.height / 2];
+  await puppet.mouse.move(...name);
+  await eventually(async () => assert.deepEqual(await tips(), ['A long name '.repeat(9)]));
+  await hand.press('cbScale-1', ' ');  // the rows move up below the pointer
+  await eventually(async () => assert.match((await hand.look()).lbContaining.rows[0].text, /Short/));
+  assert.deepEqual(await tips(), []);
+  await puppet.mouse.click(...name, { button: 'right' });
+  await (await row(3)).evaluate((element) => element.click());
+  await expectRow(hand, 3, 'a click without a press, as of a screen reader');
+
+  await protocol.send('Emulation.setTouchEmulationEnabled', { enabled: true });
+  await hand.press('lbContaining', 'End');
+  await eventually(async () => {
+    const { height, bottom, end } = await puppet.$eval('#lbContaining', (list) => {
+      const { height, bottom } = list.querySelector('[aria-selected=true]').getBoundingClientRect();
+      return { height, bottom, end: list.getBoundingClientRect().bottom };
+    });
+    assert.ok(height > 20 && bottom <= end, `${height} high, to ${bottom} in a list to ${end}`);
+  });
+});
+
 testIn('Chromium', 'of 600,000 rows only those exist that are seen', async (hand) => {
   const scales = Array.from({ length: 50000 }, (_, i) =>
     line(`S${i}`, (i % 4095 + 1).toString(2).padStart(12, '0')));

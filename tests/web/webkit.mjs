@@ -1,6 +1,7 @@
 // WebKitGTK's browser by the WebDriver protocol, on a virtual screen and a session bus of its own.
 import { spawn } from 'node:child_process';
 import { once } from 'node:events';
+import { existsSync, readdirSync } from 'node:fs';
 import { createServer } from 'node:net';
 import { setTimeout as wait } from 'node:timers/promises';
 
@@ -8,10 +9,13 @@ const keys = {
   Tab: '\uE004', Control: '\uE009', Escape: '\uE00C', PageUp: '\uE00E', PageDown: '\uE00F',
   End: '\uE010', Home: '\uE011', ArrowUp: '\uE013', ArrowDown: '\uE015',
 };
+// In the folder of the machine's kind.
+const binary = readdirSync('/usr/lib').map((kind) => `/usr/lib/${kind}/webkit2gtk-4.1/MiniBrowser`)
+  .find((path) => existsSync(path));
 const capabilities = {
   unhandledPromptBehavior: 'ignore',
   'webkitgtk:browserOptions': {
-    binary: '/usr/lib/x86_64-linux-gnu/webkit2gtk-4.1/MiniBrowser', args: ['--automation'],
+    binary, args: ['--automation'],
   },
 };
 

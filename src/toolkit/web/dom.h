@@ -26,6 +26,7 @@ void page_Watch(int element, const char* query, PageCall* listener);
 void page_Later(int delay_ms, PageCall* work);
 int page_Key(const char* keys);
 int page_Row();
+bool page_IsByHand();
 bool page_TakesBack();
 void page_Take();
 void page_TellCut();

@@ -84,7 +84,8 @@ mergeInto(LibraryManager.library, {
   page_Later: function (delay, work) { setTimeout(function () { call(_page_Due, work); }, delay); },
 
   // Of the event: its place in the list of keys, or -1 for another or one with a modifier; the row
-  // that it points at, or -1; whether a click takes the choice of its row back.
+  // that it points at, or -1; whether a click is of a mouse or a finger; whether it takes the choice of
+  // its row back.
   page_Key__deps: ['$page', '$text'],
   page_Key: function (keys) {
     const e = page.event;
@@ -96,6 +97,8 @@ mergeInto(LibraryManager.library, {
     const row = page.event.target.closest('[aria-rowindex]');
     return row ? Number(row.getAttribute('aria-rowindex')) - 1 : -1;
   },
+  page_IsByHand__deps: ['$page'],
+  page_IsByHand: function () { return page.event.detail > 0; },
   page_TakesBack__deps: ['$page'],
   page_TakesBack: function () {
     return page.event.ctrlKey || page.event.metaKey || page.event.pointerType === 'touch';

@@ -10,6 +10,8 @@ Key PressedKey() {
 
 std::int64_t Row() { return page_Row(); }
 
+bool IsByHand() { return page_IsByHand(); }
+
 bool TakesBack() { return page_TakesBack(); }
 
 void Take() { page_Take(); }

@@ -12,6 +12,8 @@ enum class Key { kOther = -1, kUp, kDown, kPageUp, kPageDown, kHome, kEnd, kEsca
 Key PressedKey();
 /// The row of a list that the event is on, from 0; -1 beside the rows.
 std::int64_t Row();
+/// Whether a click is of a mouse or a finger.
+bool IsByHand();
 /// Whether a click on a chosen row takes the choice back: with Ctrl or the platform's own command
 /// key, and always with a finger, for which there is no such key.
 bool TakesBack();

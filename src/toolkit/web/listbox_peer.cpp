@@ -55,8 +55,9 @@ ListboxPeer::ListboxPeer(const Ref<Listbox>& list, const Element& content)
   Outer().On("mousedown", [this] { pressed_ = event::Row(); });
   Outer().On("click", [this] { Clicked(); });
   Outer().On("keydown", [this] { KeyPressed(); });
-  Outer().On("mouseover", &event::TellCut);
+  Outer().On("mousemove", &event::TellCut);
   Outer().On("scroll", [this] { rows_.Scrolled(); });
+  Outer().OnMedia("(pointer: coarse)", [this] { rows_changed_ = true; });  // rows of another height
 }
 
 void ListboxPeer::Show(Change what) {
@@ -93,10 +94,9 @@ void ListboxPeer::ShareColumns() {
 }
 
 void ListboxPeer::Clicked() {
-  // A screen reader clicks without a press; a press that ends elsewhere than it began is no click.
+  // A press that ends elsewhere than it began is no click. A screen reader clicks without one.
   const std::int64_t row = event::Row();
-  const std::int64_t pressed = std::exchange(pressed_, kNowhere);
-  if (pressed != kNowhere && pressed != row) return;
+  if (event::IsByHand() && row != pressed_) return;
   const bool back = row == list_->ListIndex() && event::TakesBack();
   list_->Select(back ? -1 : row);
 }

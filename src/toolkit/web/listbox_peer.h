@@ -25,9 +25,7 @@ class ListboxPeer final : public ControlPeer {
   framework::Ref<framework::Listbox> list_;
   RowView rows_;
   bool rows_changed_ = false;
-  std::int64_t pressed_ = kNowhere;  ///< the row, or -1, where a press began
-
-  static constexpr std::int64_t kNowhere = -2;
+  std::int64_t pressed_ = -1;  ///< the row, or -1, where the last press began
 };
 
 }  // namespace toolkit::web

@@ -134,7 +134,9 @@ void RowView::Fill(std::int64_t row, Row& made) {
   made.element.Attribute("aria-rowindex", row + 1);
   Mark(row, made);
   for (int column = 0; column < columns_; ++column) {
-    made.cells[static_cast<std::size_t>(column)].Text(text_(row, column));
+    Element& cell = made.cells[static_cast<std::size_t>(column)];
+    cell.Text(text_(row, column));
+    cell.AttributeOrNone("title", "");  // a tip for what stood there
   }
 }
 
