@@ -65,6 +65,7 @@ TEST_F(Accessibility, RootIsATextThatFollowsTheChoice) {
   QAccessibleTextInterface& text = *root.textInterface();
   EXPECT_EQ(text.text(0, text.characterCount()), "C# / Db");
   EXPECT_EQ(text.text(1, 2), "#");
+  EXPECT_EQ(text.text(0, 0), "");
   int ends[] = {-1, -1, -1, -1};
   EXPECT_EQ(text.attributes(0, &ends[0], &ends[1]), "");
   text.selection(0, &ends[2], &ends[3]);
