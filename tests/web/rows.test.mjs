@@ -120,4 +120,20 @@ testIn('Chromium', 'of 600,000 rows only those exist that are seen', async (hand
     assert.equal(rows[0].text.split('|')[1], `S${rows[0].row % 50000}`);
   });
   assert.ok(await hand.page.run(() => document.querySelectorAll('*').length) < 400);
+  // The wheel passes no row over, also where the bar comes to its end first.
+  const under = await hand.page.run(async () => {
+    const list = document.getElementById('lbContaining');
+    const scroll = async (top) => {
+      list.scrollTop = top;
+      for (let i = 0; i < 2; ++i) await new Promise(requestAnimationFrame);
+      const { left, top: edge } = list.getBoundingClientRect();
+      const row = document.elementFromPoint(left + 9, edge + 9).closest('[role=row]');
+      return Number(row.getAttribute('aria-rowindex'));
+    };
+    const rows = [await scroll(1000)];
+    while (rows.at(-1) > 1 && rows.length < 50) rows.push(await scroll(list.scrollTop - 90));
+    return rows;
+  });
+  assert.ok(under.every((row, i) => i === 0 || under[i - 1] - row <= 5), `rows ${under}`);
+  assert.equal(under.at(-1), 1);
 });

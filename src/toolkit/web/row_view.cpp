@@ -64,10 +64,11 @@ void RowView::Scrolled() {
   const double range = ScrolledHeight() - view_height_;
   if (ScrolledHeight() == Height()) {
     top_ = scrolled;
-  } else if (scrolled <= 0 || scrolled >= range || std::abs(moved) > view_height_) {
+  } else if (std::abs(moved) > view_height_) {
     top_ = scrolled / range * (Height() - view_height_);
   } else {
     top_ += moved;  // a turn of the wheel goes as far as in a shorter list
+    if (scrolled <= 0 || scrolled >= range) ScrollTo(top_);  // and on where there is more
   }
   MakeSeen();
 }
