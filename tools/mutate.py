@@ -17,9 +17,13 @@ import shlex
 import subprocess
 import sys
 
-FRAMEWORK = ["tests/framework_test", "tests/program_test", "tests/out_of_memory_test"]
+# What reads bytes is also held to the fuzzers' seeds.
+SEEDS = "ctest --timeout 60 --stop-on-failure -R ^fuzz"
+FUZZERS = ["fuzz_block", "fuzz_lines", "fuzz_load", "fuzz_split", "fuzz_val"]
+FRAMEWORK = ["tests/framework_test", "tests/program_test", "tests/out_of_memory_test", SEEDS]
 PROGRAM = ["tests/program_test", "tests/out_of_memory_test"]
-CHECKER = ["tests/check/check_test", "ctest --stop-on-failure -R ^(checker|with_little)"]
+CHECKER = ["tests/check/check_test",
+           "ctest --timeout 60 --stop-on-failure -R ^(checker|with_little|fuzz_load)"]
 # The program on a real screen, a bus, a compositor: what no test program has.
 STARTED = ["ctest --stop-on-failure -R ^(on_a_real|following|with_little)"]
 SYSTEM = "../tree/tests/system/"
@@ -33,14 +37,14 @@ PAGE = ["ctest --stop-on-failure -R page_layout", "ctest --stop-on-failure -E pa
 # The tests that are to notice a mistake in a folder, which stands for what lies below it: the targets
 # to build, and the commands to run in the build's folder, the quickest first.
 NOTICED_BY = {
-    "src/framework": (["framework_test", "program_test", "out_of_memory_test"], FRAMEWORK),
+    "src/framework": (["framework_test", "program_test", "out_of_memory_test", *FUZZERS], FRAMEWORK),
     "src/pitch": (["pitch_test", "program_test"], ["tests/pitch_test", "tests/program_test"]),
     "src/library": (["program_test"], PROGRAM[:1]),
     "src/matching": (["program_test"], PROGRAM[:1]),
     "src/menu": (["program_test"], PROGRAM[:1]),
     "src/window": (["program_test"], PROGRAM[:1] + ["ctest --stop-on-failure -R ^row_"]),
     "src/shell": (["program_test", "out_of_memory_test", *STARTED_TARGETS], PROGRAM + STARTED),
-    "src/check": (["check_test", *STARTED_TARGETS], CHECKER),
+    "src/check": (["check_test", "fuzz_load", *STARTED_TARGETS], CHECKER),
     "src/toolkit/memory": (["framework_test", "program_test"], FRAMEWORK[:2]),
     "src/toolkit/qt": (["qt_test", *STARTED_TARGETS], ["tests/qt_test"] + ON_THE_DESKTOP),
     "src/toolkit/web": (["page-file"], PAGE),

@@ -1,19 +1,10 @@
-#include <gmock/gmock.h>
 #include <sys/stat.h>
 
-#include <random>
-
-#include "check/characters.h"
 #include "check/checked.h"
-#include "framework/files/text_input_stream.h"
-#include "framework/values/failures.h"
-#include "framework/values/text.h"
-#include "pitch/tscale.h"
 
 namespace {
 
 using namespace checked;
-using namespace framework;
 using testing::HasSubstr;
 using testing::Pair;
 using testing::StartsWith;
@@ -66,64 +57,10 @@ TEST(Checker, AnswersWhatItIsAsked) {
       {{"/dev/zero"}, 3, "/dev/zero: is not a file"},
   };
   for (const auto& [arguments, status, printed] : cases) {
-    EXPECT_THAT(Answer(arguments), Pair(status, HasSubstr(printed)));
-    std::string errors;
-    const auto keep = [&](std::string_view text) { errors += text; };
-    check::Run(
-        arguments, [](std::string_view) {}, keep);
-    EXPECT_EQ(errors.empty(), status != 3) << printed;
+    const auto answer = Answer(arguments);
+    EXPECT_THAT(answer, Pair(status, HasSubstr(printed)));
+    EXPECT_EQ(answer.second.starts_with("stderr: "), status == 3) << printed;
   }
-}
-
-/// Whether the loader's steps reach the file's end.
-bool Loads(const std::string& path) {
-  const auto stream = TextInputStream::Open(GetFolderItem(path));
-  stream->ReadLine();
-  stream->ReadLine();
-  try {
-    while (!stream->EOF_()) pitch::TScale().Constructor(Split(stream->ReadLine(), ","));
-  } catch (const OutOfBoundsException&) {
-    return false;
-  }
-  return true;
-}
-
-TEST(Checker, ReportsAnErrorExactlyForWhatStopsTheLoading) {
-  // The last of them, whole lines, are what a file needs several of to be wrong as a whole.
-  const std::string pieces[] = {kMajor,
-                                kNotes,
-                                "\n",
-                                "\r",
-                                ",",
-                                "\"",
-                                {"", 1},
-                                "\xC3",
-                                "TRUE,FALSE,TRUE,FALSE,TRUE,FALSE,",
-                                "\t",
-                                "\"a\",b",
-                                ";;;;;;;;;;;;;\n",
-                                Wide(kMajor + "\n", false),
-                                Replaced(kMajor, ",", ";") + "\n"};
-  const support::Folder folder;
-  const std::string path = folder.Path("library.csv");
-  std::mt19937 random(20);
-  int loaded = 0;
-  int as_a_whole = 0;
-  for (int round = 0; round < 1000; ++round) {
-    std::string bytes = "Bank,Scale\nRules\n";
-    const auto first = random() % std::size(pieces);
-    for (auto n = random() % 12; n > 0; --n) {
-      bytes += pieces[first + random() % (std::size(pieces) - first)];
-    }
-    folder.Write("library.csv", bytes);
-    const auto [status, report] = Check(path);
-    ASSERT_EQ(status != 2, Loads(path)) << check::Quoted(bytes) << report;
-    EXPECT_EQ(check::FindNoText(report), std::string::npos);
-    loaded += status != 2 ? 1 : 0;
-    as_a_whole += report.rfind(path + ": error", 0) == 0 ? 1 : 0;
-  }
-  EXPECT_THAT(loaded, testing::AllOf(testing::Gt(50), testing::Lt(950)));
-  EXPECT_THAT(as_a_whole, testing::AllOf(testing::Gt(50), testing::Lt(950)));
 }
 
 }  // namespace
