@@ -14,14 +14,12 @@ using testing::StartsWith;
 const std::string kTheme = kThemeChanged;
 const std::string kColors = kColorsChanged;
 
-class Client final : public iNotify {
- public:
-  using Handler = std::function<void(const std::string& notification)>;
-  explicit Client(Handler handler) : handler_(std::move(handler)) { Register(*this); }
-  void _MacOSNotificationReceived(const String& name) override { handler_(std::string(name)); }
-
- private:
-  Handler handler_;
+struct Client final : iNotify {
+  explicit Client(std::function<void(const String& name)> work) : handler(std::move(work)) {
+    Register(*this);
+  }
+  void _MacOSNotificationReceived(const String& name) override { handler(name); }
+  std::function<void(const String& name)> handler;
 };
 
 class Notifications : public support::Running {
@@ -29,8 +27,8 @@ class Notifications : public support::Running {
   /// A client that notes its name with each notification, and then does more.
   Ref<Client> Make(
       const std::string& name, const std::function<void()>& more = [] {}) {
-    return RuntimeNewObject<Client>([this, name, more](const std::string& notification) {
-      toolkit_.Log(name + " " + notification);
+    return RuntimeNewObject<Client>([this, name, more](const String& notification) {
+      toolkit_.Log(name + " " + std::string(notification));
       more();
     });
   }
@@ -87,54 +85,48 @@ TEST_F(Notifications, StayAtTheHeadWhenAClientFails) {
 }
 
 /// A system that refuses one thing, and notes in the log what it is asked.
-class Refusing final : public ObjectRuntime {
- public:
-  Refusing(std::string refused, toolkit::memory::MemoryToolkit& toolkit)
-      : refused_(std::move(refused)), toolkit_(toolkit) {}
+struct Refusing final : ObjectRuntime {
+  explicit Refusing(toolkit::memory::MemoryToolkit& toolkit) : log(toolkit) {}
 
   Ptr NSSelectorFromString(const String&) override { return Answer("selector"); }
   Ptr NSClassFromString(const String&) override { return Answer("class"); }
   Ptr objc_allocateClassPair(Ptr, const String&) override { return Answer("allocate"); }
   void objc_registerClassPair(Ptr) override { Answer("register"); }
   bool class_addMethod(Ptr, Ptr, Implementation method, const String&) override {
-    method_ = method;
+    delivery = method;
     return Answer("add");
   }
   Ptr alloc(Ptr) override { return Answer("alloc"); }
   Ptr init(Ptr) override { return Answer("init"); }
   Ptr defaultCenter(Ptr) override { return Answer("center"); }
   void addObserver_selector_name_object(Ptr, Ptr, Ptr, const String& name, Ptr) override {
-    Answer(name);
+    Answer(std::string(name));
   }
   String name(Ptr) override { return "name"; }
 
-  void Permit() { refused_ = ""; }
-  void Deliver() { method_(nullptr, nullptr, nullptr); }
-
- private:
-  Ptr Answer(const String& question) {
-    toolkit_.Log(std::string(question));
-    return question.View() == refused_ ? nullptr : this;
+  Ptr Answer(const std::string& question) {
+    log.Log(question);
+    return question == refused ? nullptr : this;
   }
-  std::string refused_;
-  Implementation method_ = nullptr;
-  toolkit::memory::MemoryToolkit& toolkit_;
+  toolkit::memory::MemoryToolkit& log;
+  std::string refused;
+  Implementation delivery = nullptr;
 };
 
 TEST_F(Notifications, HaveTheirObserverSetUpStepByStepAsFarAsTheSystemGoes) {
   const auto asked_by_three_clients = [this](const char* refused) {
     RuntimePerformInitializers({});
-    auto refusing = std::make_unique<Refusing>(refused, toolkit_);
-    Refusing& system = *refusing;
-    ObjectRuntime::_Set(std::move(refusing));
+    auto* const system = new Refusing(toolkit_);
+    ObjectRuntime::_Set(std::unique_ptr<ObjectRuntime>(system));
+    system->refused = refused;
     toolkit_.ClearLog();
     const auto a = Make("a");
     toolkit_.Log("again:");
     const auto b = Make("b");
     toolkit_.Log("at last:");
-    system.Permit();
+    system->refused = "";
     const auto c = Make("c");
-    system.Deliver();
+    system->delivery(nullptr, nullptr, nullptr);
     toolkit_.Run();
     return toolkit_.Lines();
   };

