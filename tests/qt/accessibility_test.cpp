@@ -1,7 +1,6 @@
 #include <QAccessible>
 
 #include "qt/qt_hand.h"
-#include "support/behaviour.h"
 
 // What a screen reader is told, as far as it shows inside the process.
 
@@ -10,7 +9,7 @@ namespace {
 using namespace support;
 using testing::ElementsAre;
 
-class Accessibility : public Behaviour<QtHand> {
+class Accessibility : public OnScreen {
  protected:
   static QAccessibleInterface& Spoken(const std::string& name) {
     return *QAccessible::queryAccessibleInterface(&Find(name));

@@ -6,7 +6,6 @@
 #include "framework/events/msg_box.h"
 #include "framework/events/timer.h"
 #include "qt/qt_hand.h"
-#include "support/behaviour.h"
 
 namespace {
 
@@ -28,7 +27,7 @@ std::string Read() {
   return text;
 }
 
-using Guarded = Behaviour<QtHand>;
+using Guarded = OnScreen;
 
 TEST_F(Guarded, TextsAreToldOneAfterTheOtherWhateverAskedForThem) {
   MsgBox("before there is a screen");

@@ -2,7 +2,6 @@
 #include <QTimer>
 
 #include "qt/qt_hand.h"
-#include "support/behaviour.h"
 #include "toolkit/qt/menu_builder.h"
 
 // What each key and each mouse button does.
@@ -13,7 +12,7 @@ using namespace framework;
 using namespace support;
 using testing::ElementsAre;
 
-using Input = Behaviour<QtHand>;
+using Input = OnScreen;
 
 TEST_F(Input, TabGoesDownTheLeftColumnThenTheRight) {
   Open();
@@ -84,7 +83,7 @@ TEST_F(Input, OnlyTheMainButtonDoesAnything) {
   QApplication::setDoubleClickInterval(1);  // a popup that has just opened takes no click
   auto& list = Find<QTableView>("lbContaining");
   auto& popup = Find<QComboBox>("pmRoot");
-  const QPoint row = list.visualRect(list.model()->index(1, 1)).center();
+  const QPoint row = Place(list, 1, 1).center();
   const QPoint beside = list.viewport()->rect().bottomLeft();
   for (const auto button : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
     SCOPED_TRACE(button);

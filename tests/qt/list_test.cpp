@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "qt/qt_hand.h"
-#include "support/behaviour.h"
 
 // How a list shows its rows and columns.
 
@@ -11,7 +10,7 @@ namespace {
 
 using namespace support;
 
-using Lists = Behaviour<QtHand>;
+using Lists = OnScreen;
 
 TEST_F(Lists, ListsHaveThreeColumnsAndAreRefreshedOnce) {
   Open();
@@ -61,7 +60,7 @@ TEST_F(Lists, ColumnsReachToTheFrameOrToTheScrollBar) {
     const int end = list.columnViewportPosition(2) + list.columnWidth(2);
     EXPECT_EQ(end, 385 - (long_list ? bar.width() : 0));
     EXPECT_EQ(list.viewport()->geometry(), QRect(1, 1, end, 247)) << "and there are no headings";
-    const QRect row = list.visualRect(list.model()->index(1, 0));
+    const QRect row = Place(list, 1, 0);
     for (int y = row.top(); y <= row.bottom(); ++y) {
       for (const int x : {0, end - 1}) {
         hand_->ChooseRow(0);
@@ -97,17 +96,13 @@ TEST_F(Lists, TextWithLineBreaksStandsOnOneLine) {
   QApplication::processEvents();
   auto& list = Find<QTableView>("lbContaining");
   const auto picture = [&](int row) {
-    return list.viewport()->grab(list.visualRect(list.model()->index(row, 1))).toImage();
+    return list.viewport()->grab(Place(list, row, 1)).toImage();
   };
   EXPECT_EQ(picture(0), picture(2));
   EXPECT_EQ(picture(1), picture(2));
   EXPECT_EQ(picture(3), picture(4)) << "filled to its end, wherever a word ends";
-  const QRect empty =
-      list.visualRect(list.model()->index(5, 0)) | list.visualRect(list.model()->index(5, 2));
-  const QImage row = list.viewport()->grab(empty).toImage();
-  QImage ground = row;
-  ground.fill(ground.pixel(0, 0));
-  EXPECT_EQ(row, ground) << "no grid";
+  const QRect empty = Place(list, 5, 0) | Place(list, 5, 2);
+  EXPECT_TRUE(Ink(list.viewport()->grab(empty).toImage()).isEmpty()) << "no grid";
   for (const float size : {0.F, 12.F, 13.F, 15.F, 30.F}) {
     window_->lbContaining()->TextSize(size);
     EXPECT_EQ(list.rowHeight(0), std::ceil(QFontMetricsF(list.font()).height())) << size;

@@ -2,7 +2,6 @@
 #include <QScrollBar>
 
 #include "qt/qt_hand.h"
-#include "support/behaviour.h"
 
 // The lines around lists and boxes, and around what has the focus.
 
@@ -10,7 +9,7 @@ namespace {
 
 using namespace support;
 
-using Outlines = Behaviour<QtHand>;
+using Outlines = OnScreen;
 
 /// At the scales that a screen may have, some of which divide points.
 class AtEachScale : public Outlines, public testing::WithParamInterface<const char*> {
@@ -31,26 +30,22 @@ TEST_P(AtEachScale, ListsHaveAllFourLinesOfTheirFrame) {
     EXPECT_EQ(scale, std::stod(GetParam()));
     for (const char* const name : {"lbExact", "lbContaining"}) {
       SCOPED_TRACE(name);
-      const QPoint corner = Find(name).mapTo(&Native(), QPoint(0, 0));
-      const int left = qRound(scale * corner.x());
-      const int top = qRound(scale * corner.y());
-      const int right = qRound(scale * (corner.x() + Find(name).width())) - 1;
-      const int bottom = qRound(scale * (corner.y() + Find(name).height())) - 1;
-      const QRgb line = picture.pixel(left, top);
+      const QPoint corner = Find(name).mapTo(&Native(), QPoint());
+      const QPoint end = Find(name).rect().bottomRight() + corner + QPoint(1, 1);
+      const QRect frame((scale * QPointF(corner)).toPoint(),
+                        (scale * QPointF(end)).toPoint() - QPoint(1, 1));
+      const auto at = [&](int way) {
+        return picture.pixelColor(frame.topLeft() + way * QPoint(1, 1));
+      };
       const int thick = static_cast<int>(scale);
-      EXPECT_NE(line, picture.pixel(left - 1, top - 1));
-      EXPECT_EQ(line, picture.pixel(left + thick - 1, top + thick - 1));
-      const QRgb ground = picture.pixel(left + thick + 2, top + thick + 2);
-      EXPECT_NE(line, ground);
-      EXPECT_EQ(ground, picture.pixel(left + thick, top + thick)) << "up to the line";
-      int missing = 0;
-      for (int x = left; x <= right; ++x) {
-        missing += (picture.pixel(x, top) != line) + (picture.pixel(x, bottom) != line);
+      const QColor line = at(0);
+      EXPECT_NE(line, at(-1));
+      EXPECT_EQ(line, at(thick - 1));
+      EXPECT_NE(line, at(thick));
+      EXPECT_EQ(at(thick), at(thick + 2)) << "the ground, up to the line";
+      for (const QRect& side : QRegion(frame) - frame.adjusted(1, 1, -1, -1)) {
+        EXPECT_EQ(Count(picture.copy(side), line), side.width() * side.height());
       }
-      for (int y = top; y <= bottom; ++y) {
-        missing += (picture.pixel(left, y) != line) + (picture.pixel(right, y) != line);
-      }
-      EXPECT_EQ(missing, 0);
     }
   }
 }
@@ -84,26 +79,19 @@ TEST_P(AtEachScale, BoxesHaveOutlinesOnABlackGround) {
 
 TEST_F(Outlines, FocusIsALineAroundAListAndAroundACaption) {
   Open();
-  const QColor highlight = QApplication::palette().color(QPalette::Highlight);
-  const auto highlighted = [&highlight](const char* name) {
-    const QImage picture = Find(name).grab().toImage();
-    int points = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-      for (int x = 0; x < picture.width(); ++x) points += picture.pixelColor(x, y) == highlight;
-    }
-    return points;
+  const auto highlighted = [](const char* name) {
+    return Count(Find(name).grab().toImage(), QApplication::palette().color(QPalette::Highlight));
   };
-  for (const char* const name : {"lbExact", "cbOther"}) {
+  const auto names = {"cbOther", "lbExact"};
+  for (const char* const name : names) {
     EXPECT_EQ(highlighted(name), 0) << name;
     Find(name).setFocus();
     EXPECT_GE(highlighted(name), 200) << name;
   }
-  Find("lbExact").setFocus();
   EXPECT_EQ(highlighted("lbExact"), 2 * (385 + 93) - 4) << "one point thick";
-  Find("cbOther").setFocus();
   QApplication::processEvents();
   const CountOfPaintings paintings(*Find<QTableView>("lbExact").viewport());
-  for (const char* const name : {"lbExact", "cbOther"}) {
+  for (const char* const name : names) {
     Find(name).setFocus();
     QApplication::processEvents();
   }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QBitmap>
 #include <QCheckBox>
@@ -11,8 +9,8 @@
 #include <QTest>
 #include <functional>
 
+#include "support/program.h"
 #include "toolkit/qt/qt_toolkit.h"
-#include "window/main_window.h"
 
 namespace support {
 
@@ -42,10 +40,26 @@ Widget& Find(const std::string& name) {
   return *widget;
 }
 
+/// The place of a list's cell in its viewport, which is scrolled there.
+inline QRect Place(QTableView& list, int row, int column) {
+  const QModelIndex cell = list.model()->index(row, column);
+  list.scrollTo(cell);
+  return list.visualRect(cell);
+}
+
 /// Where a picture differs from its first pixel.
 inline QRect Ink(const QImage& picture) {
   const QImage mask = picture.createMaskFromColor(picture.pixel(0, 0), Qt::MaskInColor);
   return QRegion(QBitmap::fromImage(mask)).boundingRect();
+}
+
+/// How many points of a picture have a colour.
+inline int Count(const QImage& picture, const QColor& color) {
+  int count = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) count += picture.pixelColor(x, y) == color;
+  }
+  return count;
 }
 
 /// How often a widget is painted.
@@ -65,7 +79,7 @@ class QtHand {
   using Toolkit = QtTestToolkit;
   static constexpr bool kShowsFailures = true;  ///< in a box that waits for the user
 
-  QtHand(Toolkit&, window::wdwMainClass&) {
+  explicit QtHand(window::wdwMainClass&) {
     Native().activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Native()));
   }
@@ -104,9 +118,7 @@ class QtHand {
   }
   static void ClickRow(const char* list, int row, Qt::KeyboardModifiers with = {}) {
     auto& view = Find<QTableView>(list);
-    const QModelIndex name = view.model()->index(row, 1);
-    view.scrollTo(name);
-    Click(*view.viewport(), view.visualRect(name).center(), with);
+    Click(*view.viewport(), Place(view, row, 1).center(), with);
   }
 
   /// The screen shows what the controls hold.
@@ -133,6 +145,17 @@ class QtHand {
 
  private:
   bool dark_ = false;
+};
+
+/// The program on the screen, and the user before it.
+class OnScreen : public ProgramOn<QtTestToolkit> {
+ protected:
+  void Open(std::string_view library = kFourScales) {
+    ProgramOn::Open(library);
+    hand_ = std::make_unique<QtHand>(*window_);
+  }
+
+  std::unique_ptr<QtHand> hand_;
 };
 
 }  // namespace support

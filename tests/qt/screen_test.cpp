@@ -1,7 +1,6 @@
 #include <QTranslator>
 
 #include "qt/qt_hand.h"
-#include "support/behaviour.h"
 #include "support/monkey.h"
 
 // The program on the real widgets: what stands where in its window, and how it looks.
@@ -12,11 +11,9 @@ using namespace framework;
 using namespace support;
 using testing::ElementsAre;
 
-INSTANTIATE_TYPED_TEST_SUITE_P(OnQt, Behaviour, QtHand);
-
 TEST(RandomClicksOnScreen, AgreeWithTheOracleAndTheScreenFollows) { Monkey<QtHand>::Play(200); }
 
-using Screen = Behaviour<QtHand>;
+using Screen = OnScreen;
 
 TEST_F(Screen, EveryControlStandsAtItsPlaceAndStaysThere) {
   Open();
@@ -129,13 +126,7 @@ TEST_F(Screen, StarIsWholeAndGreenInItsStrip) {
     EXPECT_GE(ink.width(), 10) << "large";
     EXPECT_TRUE(QRect(0, 1, 15, 19).contains(ink)) << "whole";
     EXPECT_LE(std::abs(label.y() + ink.center().y() - box.center().y()), 1) << "level with its box";
-    int green = 0;
-    for (int y = ink.top(); y <= ink.bottom(); ++y) {
-      for (int x = ink.left(); x <= ink.right(); ++x) {
-        green += star.pixelColor(x, y) == QColor(0, 129, 0);
-      }
-    }
-    EXPECT_GE(green, 5) << "whatever the font draws at the very middle";
+    EXPECT_GE(Count(star, QColor(0, 129, 0)), 5) << "whatever the font draws at the very middle";
   }
 }
 

@@ -5,7 +5,6 @@
 #include <QToolTip>
 
 #include "qt/qt_hand.h"
-#include "support/behaviour.h"
 #include "toolkit/qt/tool_tip.h"
 
 // What the pointer is told, wherever it rests.
@@ -14,7 +13,7 @@ namespace {
 
 using namespace support;
 
-class Tips : public Behaviour<QtHand> {
+class Tips : public OnScreen {
  protected:
   /// The tip at a place of a widget; empty for none.
   static std::string At(QWidget& widget, const QPoint& place) {
@@ -25,19 +24,14 @@ class Tips : public Behaviour<QtHand> {
     return QToolTip::text().toStdString();
   }
   /// The same, as the screen shows it, without the places where a word may be broken.
-  static QString ReadAt(QWidget& widget, const QPoint& place) {
+  static std::string ReadAt(QWidget& widget, const QPoint& place) {
     QTextDocument page;
     page.setHtml(QString::fromStdString(At(widget, place)));
-    return page.toRawText().remove(QChar(0x200B));
+    return page.toRawText().remove(QChar(0x200B)).toStdString();
   }
   /// How high the text of a picture is where it ends: a dot of an ellipsis is low.
   static int HeightOfTheEnd(const QImage& picture) {
-    int height = 0;
-    for (int x = picture.width() - 1; x >= 0 && height == 0; --x) {
-      for (int y = 0; y < picture.height(); ++y)
-        height += picture.pixel(x, y) != picture.pixel(0, 0);
-    }
-    return height;
+    return Ink(picture.copy(Ink(picture).right(), 0, 1, picture.height())).height();
   }
   static QRect OfTip() {
     for (const QWidget* const widget : QApplication::topLevelWidgets()) {
@@ -73,8 +67,8 @@ TEST_F(Tips, LeaveARootAloneInAFontOfTwentyPixelsToo) {
   for (int row = 0; row < 30; ++row) window_->lbContaining()->AddRow({"", "", "G# / Ab"});
   auto& list = Find<QTableView>("lbContaining");
   ASSERT_TRUE(QTest::qWaitFor([&] { return list.verticalScrollBar()->isVisible(); }));
-  const QPoint root = list.visualRect(list.model()->index(1, 2)).center();
-  EXPECT_EQ(At(*list.viewport(), root), list.toolTip().toStdString()) << "it is not cut";
+  EXPECT_EQ(At(*list.viewport(), Place(list, 1, 2).center()), list.toolTip().toStdString())
+      << "it is not cut";
 }
 
 TEST_F(Tips, TellOfEachCellThatIsCut) {
@@ -88,9 +82,7 @@ TEST_F(Tips, TellOfEachCellThatIsCut) {
   QApplication::processEvents();
   auto& view = Find<QTableView>("lbContaining");
   for (int row = 0; row < view.model()->rowCount(); ++row) {
-    const QModelIndex cell = view.model()->index(row, 2);
-    view.scrollTo(cell);
-    const QRect place = view.visualRect(cell);
+    const QRect place = Place(view, row, 2);
     const int end = HeightOfTheEnd(view.viewport()->grab(place).toImage());
     if (!At(*view.viewport(), place.center()).empty()) {
       EXPECT_LT(end, 5) << "an ellipsis";
@@ -105,10 +97,8 @@ TEST_F(Tips, TellOfEachCellThatIsCut) {
 TEST_F(Tips, TellACutCellWholeAndPlainHoweverItIsWritten) {
   Open();
   QString letters;
-  for (char16_t letter = 0; letter < 0x250; ++letter) {
-    const bool ends_a_line = letter == '\n' || letter == '\r';
-    if (!ends_a_line) letters += QChar(letter);
-  }
+  for (char16_t letter = 0; letter < 0x250; ++letter) letters += QChar(letter);
+  letters.remove('\n').remove('\r');
   const QString texts[] = {
       QStringLiteral("<b>Q & A</b> &amp;  <br>").repeated(6),
       QString(900, 'W'),
@@ -122,10 +112,9 @@ TEST_F(Tips, TellACutCellWholeAndPlainHoweverItIsWritten) {
   QApplication::processEvents();
   auto& view = Find<QTableView>("lbContaining");
   for (int row = 0; row < static_cast<int>(std::size(texts)); ++row) {
-    const QModelIndex cell = view.model()->index(row, 1);
-    EXPECT_TRUE(texts[row].startsWith(cell.data().toString())) << "cut at a character, row " << row;
-    const QPoint place = view.visualRect(cell).center();
-    EXPECT_EQ(ReadAt(*view.viewport(), place).toStdString(), texts[row].toStdString());
+    const QString shown = view.model()->index(row, 1).data().toString();
+    EXPECT_TRUE(texts[row].startsWith(shown)) << "cut at a character, row " << row;
+    EXPECT_EQ(ReadAt(*view.viewport(), Place(view, row, 1).center()), texts[row].toStdString());
     EXPECT_LT(OfTip().width(), 700) << "wrapped, row " << row;
   }
 }
@@ -157,12 +146,11 @@ TEST_F(Tips, AreNoHigherThanTheScreen) {
   QApplication::processEvents();
   auto& view = Find<QTableView>("lbContaining");
   for (const int column : {0, 1, 2}) {
-    const QPoint place = view.visualRect(view.model()->index(0, column)).center();
-    const QString told = ReadAt(*view.viewport(), place);
+    const std::string told = ReadAt(*view.viewport(), Place(view, 0, column).center());
     EXPECT_LE(OfTip().height(), screen.size().height());
     EXPECT_GT(OfTip().height(), screen.size().height() / 2);
     EXPECT_LE(OfTip().width(), screen.size().width());
-    EXPECT_EQ(told.back() == QChar(0x2026), column < 2);
+    EXPECT_EQ(told.ends_with("\u2026"), column < 2);
   }
   QToolTip::setFont(QApplication::font());
 }

@@ -44,8 +44,7 @@ struct Oracle {
 
   // What a hand does.
   void Tick(int position) {
-    char& digit = ticked.begin()[position];
-    digit = digit == '1' ? '0' : '1';
+    ticked.begin()[position] ^= 1;  // '0' or '1'
     Compare();
   }
   void TickOther() { TurnOver(other); }
@@ -138,7 +137,7 @@ class Monkey : ProgramOn<typename Hand::Toolkit> {
 
   void PlaySession(long events) {
     OpenOnAnyLibrary();
-    Hand hand(this->toolkit_, *this->window_);
+    Hand hand(*this->window_);
     for (long event = 0; event < events && !testing::Test::HasFailure(); ++event) {
       SCOPED_TRACE("event " + std::to_string(event) + ": " + (event == 0 ? "opening" : Act(hand)));
       const auto& window = *this->window_;

@@ -1,4 +1,4 @@
-// How the page answers the user: what tests/support/behaviour.h says of the other toolkits.
+// How the page answers the user: what the monkey of tests/support holds the other toolkits to.
 import assert from 'node:assert/strict';
 import { eventually, testInEach } from './hand.mjs';
 import { fourScales, pageOn } from './page.mjs';
