@@ -1,7 +1,5 @@
 #include <algorithm>
-#include <thread>
 
-#include "framework/events/msg_box.h"
 #include "support/running.h"
 
 namespace {
@@ -34,20 +32,16 @@ TEST_F(Failures, AreReportedWhenNoOneTookThem) {
 
 TEST_F(Failures, WithTooLongAMessageAreToldWithAsMuchOfItAsFits) {
   const std::string fits(961, 'x');
-  struct Case {
-    std::string message;
-    std::string told;
-  };
-  const Case cases[] = {
+  const std::pair<std::string, std::string> messages[] = {
       {fits, fits},
       {fits + "x", fits},
       {fits.substr(1) + "é", fits.substr(1)},
       {fits.substr(2) + "éx", fits.substr(2) + "é"},
       {std::string(2000, '\x80'), ""},
   };
-  for (const Case& each : cases) {
-    EXPECT_EQ(Reported([&] { RuntimeRaiseException(KeyNotFoundException(each.message)); }),
-              "failure KeyNotFoundException: " + each.told + " (error number 0)");
+  for (const auto& each : messages) {
+    EXPECT_EQ(Reported([&] { RuntimeRaiseException(KeyNotFoundException(each.first)); }),
+              "failure KeyNotFoundException: " + each.second + " (error number 0)");
   }
 }
 
@@ -76,14 +70,6 @@ TEST_F(Failures, OfOtherKindsEndTheRunLoopAndAreRaisedBehindIt) {
   toolkit_.Post([this] { toolkit_.Log("never"); });
   EXPECT_THROW(_RuntimeRun(), int);
   EXPECT_THAT(toolkit_.Lines(), ElementsAre("run", "quit"));
-}
-
-TEST_F(Failures, MeetOtherThreadsInTheUserInterface) {
-  _RuntimeRegisterAppObject(RuntimeNewObject<Application>());
-  std::string reported;
-  std::thread([&] { reported = Reported([] { MsgBox("text"); }); }).join();
-  EXPECT_THAT(reported, StartsWith("failure ThreadAccessingUIException: A thread has attempted to "
-                                   "manipulate a user interface element."));
 }
 
 }  // namespace

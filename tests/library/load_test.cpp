@@ -52,8 +52,6 @@ const Place kPlaces[] = {
                    "Bank,Twice,TRUE,,,,,,,,,,,"),
      {kLoadedMajor, "\"Q\" : \"a : 1536", "\xFF : Twice : 2048", "Bank : Twice : 2048", kNames}},
     {"thirteen fields", File(kStart + "Bank,S,,,,,,,,,,,\n" + kTriad), {kLoadedMajor, kTooShort}},
-    {"a blank line", File(kStart + "\n" + kTriad), {kLoadedMajor, kTooShort}},
-    {"a second line end", File(kStart + "\n"), {kLoadedMajor, kTooShort}},
     {"a folder", &MakeFolder, {kUnreadable, kNames}},
     {"a pipe", &MakePipe, {kUnreadable, kNames}},
     {"a device", LinkTo("/dev/null"), {kUnreadable, kNames}},

@@ -10,7 +10,6 @@ namespace {
 
 using namespace framework;
 using namespace support;
-using testing::ElementsAre;
 
 using Input = OnScreen;
 
@@ -136,20 +135,13 @@ TEST_F(Input, MenusAreHiddenAndDisabledAsTheirItemsAre) {
   EXPECT_FALSE(titles[1]->isVisible());
 }
 
-TEST_F(Input, MenusOpenByTheirLettersAndClosingEndsTheRun) {
+TEST_F(Input, EntriesThatDoSomethingAreEnabledAndClosingEndsTheRun) {
   Open();
-  std::vector<std::string> enabled;
-  for (const Qt::Key key : {Qt::Key_F, Qt::Key_E}) {
-    QtHand::Press(Native(), key, Qt::AltModifier);
-    QWidget* const menu = QApplication::activePopupWidget();
-    ASSERT_NE(menu, nullptr);
-    for (const QAction* const action : menu->actions()) {
-      const bool live = action->isEnabled() && !action->isSeparator();
-      if (live) enabled.push_back(action->objectName().toStdString());
-    }
-    QtHand::Press(*menu, Qt::Key_Escape);
+  QString enabled;
+  for (const QAction* const action : Native().findChildren<QAction*>()) {
+    if (action->isEnabled()) enabled += action->objectName();
   }
-  EXPECT_THAT(enabled, ElementsAre("FileQuit"));
+  EXPECT_EQ(enabled, "FileQuit");
   QTimer::singleShot(0, [] { Native().close(); });
   _RuntimeRun();
 }

@@ -93,7 +93,6 @@ TEST_F(Lists, TextWithLineBreaksStandsOnOneLine) {
       "",
   };
   for (const char* const name : names) window_->lbContaining()->AddRow({"", name, ""});
-  QApplication::processEvents();
   auto& list = Find<QTableView>("lbContaining");
   const auto picture = [&](int row) {
     return list.viewport()->grab(Place(list, row, 1)).toImage();

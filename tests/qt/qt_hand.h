@@ -40,8 +40,10 @@ Widget& Find(const std::string& name) {
   return *widget;
 }
 
-/// The place of a list's cell in its viewport, which is scrolled there.
+/// The place of a list's cell in its viewport, which is scrolled there, once the list shows its
+/// rows.
 inline QRect Place(QTableView& list, int row, int column) {
+  QApplication::processEvents();
   const QModelIndex cell = list.model()->index(row, column);
   list.scrollTo(cell);
   return list.visualRect(cell);

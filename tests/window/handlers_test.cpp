@@ -103,7 +103,13 @@ TEST_F(Handlers, OperationsOnTheUserInterfaceAreRefusedOffTheMainThread) {
   };
   std::thread([&] {
     for (const auto& operation : operations) {
-      EXPECT_THROW(operation(), ThreadAccessingUIException) << "number " << &operation - operations;
+      toolkit_.ClearLog();
+      Application::_CallFunctionWithExceptionHandling(operation);
+      EXPECT_THAT(toolkit_.Lines(),
+                  ElementsAre(testing::StartsWith(
+                      "failure ThreadAccessingUIException: A thread has attempted to manipulate a "
+                      "user interface element.")))
+          << "number " << &operation - operations;
     }
   }).join();
 }
