@@ -7,8 +7,6 @@
 #include <set>
 #include <span>
 #include <sstream>
-#include <string>
-#include <vector>
 
 #include "framework/files/text_input_stream.h"
 #include "framework/values/text.h"
@@ -30,15 +28,12 @@ std::vector<std::string> Cut(const std::string& text, const char* delimiter) {
   return {parts._Items().begin(), parts._Items().end()};
 }
 
-struct Entry {
-  std::string bank;
-  std::string scale;
-  std::int64_t notes;  ///< a mask, as in TScale
+using Entry = Ref<pitch::TScale>;
 
-  std::string Title() const { return bank + " : " + scale; }
-  /// "Major / Ionian" is two names.
-  std::vector<std::string> Names() const { return Cut(scale, " / "); }
-};
+/// "Major / Ionian" is two names.
+std::vector<std::string> Names(const Entry& entry) {
+  return Cut(std::string(entry->Scale()), " / ");
+}
 
 /// The scales in the order of the file.
 std::vector<Entry> ShippedLibrary() {
@@ -47,9 +42,8 @@ std::vector<Entry> ShippedLibrary() {
   stream->ReadLine();
   stream->ReadLine();
   while (!stream->EOF_()) {
-    pitch::TScale scale;
-    scale.Constructor(Split(stream->ReadLine(), ","));
-    entries.push_back({std::string(scale.Bank()), std::string(scale.Scale()), scale.Notes()});
+    entries.push_back(RuntimeNewObject<pitch::TScale>());
+    entries.back()->Constructor(Split(stream->ReadLine(), ","));
   }
   return entries;
 }
@@ -101,8 +95,8 @@ TEST(ShippedLibrary, HasItsScalesAsMusiciansKnowThem) {
   std::multimap<std::string, Entry> library;  // by each of its names
   std::set<std::string> banks;
   for (const Entry& entry : ShippedLibrary()) {
-    for (const std::string& name : entry.Names()) library.emplace(name, entry);
-    banks.insert(entry.bank);
+    for (const std::string& name : Names(entry)) library.emplace(name, entry);
+    banks.emplace(entry->Bank());
   }
   const Facts facts = ReadFacts(KNOWN_SCALES);
   std::set<std::string> known;
@@ -113,7 +107,7 @@ TEST(ShippedLibrary, HasItsScalesAsMusiciansKnowThem) {
       EXPECT_TRUE(library.contains(name)) << "no " << name;
       const auto [first, last] = library.equal_range(name);
       for (auto found = first; found != last; ++found) {
-        EXPECT_EQ(found->second.notes, notes) << name << " in " << found->second.Title();
+        EXPECT_EQ(found->second->Notes(), notes) << name << " is " << found->second->Print().View();
       }
       known.insert(name);
     }
@@ -121,15 +115,15 @@ TEST(ShippedLibrary, HasItsScalesAsMusiciansKnowThem) {
   EXPECT_GT(facts.banks.size(), 0U);
   EXPECT_THAT(banks, testing::IsSupersetOf(facts.banks));
   for (const auto& [name, entry] : library) {
-    if (!facts.banks.contains(entry.bank)) continue;
-    EXPECT_TRUE(known.contains(name)) << name << " in " << entry.Title() << " is not known";
+    if (!facts.banks.contains(std::string(entry->Bank()))) continue;
+    EXPECT_TRUE(known.contains(name)) << name << " in " << entry->Print().View() << " is not known";
   }
 }
 
 /// How many different sets of notes there are, but for all twelve.
 std::size_t CountSets(std::span<const Entry> entries) {
   std::set<std::int64_t> sets;
-  for (const Entry& entry : entries) sets.insert(entry.notes);
+  for (const Entry& entry : entries) sets.insert(entry->Notes());
   sets.erase(kTwelveNotes);
   return sets.size();
 }
@@ -137,8 +131,10 @@ std::size_t CountSets(std::span<const Entry> entries) {
 TEST(ShippedLibrary, IsAsLargeAsAMusicianExpectsAndFitsTheLists) {
   const std::vector<Entry> library = ShippedLibrary();
   for (const Entry& entry : library) {
-    EXPECT_LE(entry.bank.size(), 18U) << entry.Title() << ": the bank is cut in the list";
-    EXPECT_LE(entry.scale.size(), 28U) << entry.Title() << ": the name is cut in the list";
+    EXPECT_LE(entry->Bank().View().size(), 18U)
+        << entry->Print().View() << ": the bank is cut in the list";
+    EXPECT_LE(entry->Scale().View().size(), 28U)
+        << entry->Print().View() << ": the name is cut in the list";
   }
   EXPECT_GE(library.size(), 600U);
   EXPECT_GE(CountSets(library), 339U);
@@ -149,24 +145,25 @@ TEST(ShippedLibrary, AnswersFirstWithWhatATeacherNames) {
   constexpr std::size_t kDifferent = 13;  // of them at least, if the library has so many
   const std::vector<Entry> library = ShippedLibrary();
   ASSERT_FALSE(library.empty());
-  EXPECT_EQ(library.back().notes, kTwelveNotes) << "the twelve notes contain all, and stand last";
+  EXPECT_EQ(library.back()->Notes(), kTwelveNotes)
+      << "the twelve notes contain all, and stand last";
   const Facts queries = ReadFacts(FIRST_ROWS);
   EXPECT_EQ(queries.lines.size(), 40U);
   for (const auto& [notes, names] : queries.lines) {
     std::vector<Entry> rows;
     for (const Entry& entry : library) {
-      if ((entry.notes & notes) == notes && entry.notes != notes) rows.push_back(entry);
+      if (entry->ContainsAll(notes)) rows.push_back(entry);
     }
     const std::size_t different = std::min(kDifferent, CountSets(rows));
     rows.resize(std::min(kFirst, rows.size()));
     std::string shown = "among the rows\n";
-    for (const Entry& row : rows) shown += row.Title() + "\n";
+    for (const Entry& row : rows) shown.append(row->Print()).append("\n");
     EXPECT_GE(CountSets(rows), different) << shown;
 
     auto place = rows.begin();
     for (const std::string& name : names) {
       place = std::find_if(place, rows.end(), [&name](const Entry& row) {
-        return std::ranges::count(row.Names(), name) != 0;
+        return std::ranges::count(Names(row), name) != 0;
       });
       ASSERT_NE(place, rows.end()) << "no " << name << " in its place " << shown;
       const auto most = name == names.front() ? 3 : std::ssize(rows);

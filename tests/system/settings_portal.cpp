@@ -4,15 +4,7 @@
 // is not the portal, and not set. "restarted" before it: another portal takes this one's place,
 // which has the setting and tells nothing.
 
-#include <QCoreApplication>
-#include <QDBusArgument>
-#include <QDBusConnection>
-#include <QDBusConnectionInterface>
-#include <QDBusMessage>
-#include <QDBusVariant>
-#include <QDBusVirtualObject>
-#include <QMap>
-#include <QSocketNotifier>
+#include <QtDBus>
 #include <iostream>
 #include <iterator>
 #include <optional>
