@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "support/running.h"
 
 namespace {
@@ -57,9 +55,8 @@ TEST_F(Failures, TravelWholeAndKnowWhereTheyWereRaised) {
     EXPECT_GT(raised.CallStack().LastIndex(), 3);
     const Array<String> stack = raised.Stack();
     EXPECT_EQ(stack.LastIndex(), raised.CallStack().LastIndex());
-    const auto names = stack._Items();
-    EXPECT_TRUE(std::any_of(names.begin(), names.end(),
-                            [](std::string_view name) { return !name.empty(); }));
+    const std::vector<std::string> names(stack._Items().begin(), stack._Items().end());
+    EXPECT_THAT(names, testing::Contains(testing::Not("")));
     return;
   }
   FAIL() << "it was raised as another";

@@ -72,7 +72,7 @@ void LetOperationsFail(bool fail) {
 TEST_F(Guarded, NothingIsThrownThroughTheToolkit) {
   Open();
   hand_->Tick(0);
-  const QAbstractItemModel& model = *Find<QTableView>("lbContaining").model();
+  const QAbstractItemModel& model = *List().model();
   const std::tuple<const char*, std::function<void()>, std::function<void()>> calls[] = {
       {"a tick", {}, [&] { hand_->Tick(4); }},
       {"a root", {}, [] { QtHand::Press(Find("pmRoot"), Qt::Key_Down); }},

@@ -49,12 +49,11 @@ TEST_F(Input, ArrowKeysGoUpAndDownInOneSetOfBoxesAndNowhereElse) {
 TEST_F(Input, RowsAreChosenByKeysAndLetGoByMouse) {
   Open();
   hand_->TickOther();
-  auto& list = Find<QTableView>("lbContaining");
   const auto row_after = [&](Qt::Key key) {
-    QtHand::Press(list, key);
+    QtHand::Press(List(), key);
     return window_->lbContaining()->ListIndex();
   };
-  list.setFocus();
+  List().setFocus();
   EXPECT_EQ(row_after(Qt::Key_Down), 0);
   EXPECT_EQ(row_after(Qt::Key_Down), 1);
   EXPECT_EQ(row_after(Qt::Key_End), 47);
@@ -71,7 +70,7 @@ TEST_F(Input, RowsAreChosenByKeysAndLetGoByMouse) {
   EXPECT_EQ(row_after(Qt::Key_End), 47) << "with none chosen before";
   hand_->TickOther();
   hand_->ChooseRow(2);
-  QtHand::Click(*list.viewport(), list.viewport()->rect().bottomLeft());
+  QtHand::Click(*List().viewport(), List().viewport()->rect().bottomLeft());
   EXPECT_EQ(window_->lbContaining()->ListIndex(), -1) << "beside the rows";
 }
 
@@ -80,15 +79,14 @@ TEST_F(Input, OnlyTheMainButtonDoesAnything) {
   hand_->Tick(0);
   hand_->ChooseRow(0);
   QApplication::setDoubleClickInterval(1);  // a popup that has just opened takes no click
-  auto& list = Find<QTableView>("lbContaining");
   auto& popup = Find<QComboBox>("pmRoot");
-  const QPoint row = Place(list, 1, 1).center();
-  const QPoint beside = list.viewport()->rect().bottomLeft();
+  const QPoint row = Place(1, 1).center();
+  const QPoint beside = List().viewport()->rect().bottomLeft();
   for (const auto button : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
     SCOPED_TRACE(button);
     for (const QPoint& place : {row, beside}) {
-      QTest::mouseClick(list.viewport(), button, {}, place);
-      QTest::mouseDClick(list.viewport(), button, {}, place);
+      QTest::mouseClick(List().viewport(), button, {}, place);
+      QTest::mouseDClick(List().viewport(), button, {}, place);
       EXPECT_EQ(window_->lbContaining()->ListIndex(), 0);
     }
     QTest::mouseClick(&Find("cbScale2"), button, {}, {8, 8});
@@ -101,7 +99,8 @@ TEST_F(Input, OnlyTheMainButtonDoesAnything) {
     QTest::qWait(10);
     QTest::mouseClick(&rows, button, {}, last);
     EXPECT_TRUE(popup.view()->isVisible());
-    QTest::mouseClick(Native().windowHandle(), button, {}, list.viewport()->mapTo(&Native(), row));
+    QTest::mouseClick(Native().windowHandle(), button, {},
+                      List().viewport()->mapTo(&Native(), row));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !popup.view()->isVisible(); })) << "it lets go";
     EXPECT_EQ(window_->pmRoot()->ListIndex(), 3);
     EXPECT_EQ(window_->lbContaining()->ListIndex(), 0);

@@ -14,8 +14,7 @@ using Lists = OnScreen;
 
 TEST_F(Lists, ListsHaveThreeColumnsAndAreRefreshedOnce) {
   Open();
-  auto& list = Find<QTableView>("lbContaining");
-  const QAbstractItemModel& model = *list.model();
+  const QAbstractItemModel& model = *List().model();
   const QSignalSpy announced(&model, &QAbstractItemModel::modelAboutToBeReset);
   const QSignalSpy refreshed(&model, &QAbstractItemModel::modelReset);
   hand_->TickOther();
@@ -24,29 +23,28 @@ TEST_F(Lists, ListsHaveThreeColumnsAndAreRefreshedOnce) {
   EXPECT_EQ(model.columnCount(), 3);
   EXPECT_EQ(model.rowCount(model.index(0, 0)), 0);
   EXPECT_EQ(model.columnCount(model.index(0, 0)), 0);
-  list.scrollToBottom();
-  EXPECT_GT(list.rowAt(0), 0);
+  List().scrollToBottom();
+  EXPECT_GT(List().rowAt(0), 0);
   hand_->Tick(0);
-  EXPECT_EQ(list.verticalScrollBar()->value(), 0);
-  ASSERT_GT(list.verticalScrollBar()->maximum(), 0);
-  const int room = 385 - list.verticalScrollBar()->sizeHint().width();
-  const CountOfPaintings paintings(*list.viewport());
+  EXPECT_EQ(List().verticalScrollBar()->value(), 0);
+  ASSERT_GT(List().verticalScrollBar()->maximum(), 0);
+  const int room = 385 - List().verticalScrollBar()->sizeHint().width();
+  const CountOfPaintings paintings(*List().viewport());
   window_->lbContaining()->ColumnWidths("2%,0%,62%,36%");
   QApplication::processEvents();
   EXPECT_EQ(paintings.count, 1);
-  EXPECT_EQ(list.columnWidth(0), room * 2 / 100);
-  EXPECT_TRUE(list.isColumnHidden(1));
-  EXPECT_EQ(list.columnWidth(2), room * 62 / 100);
+  EXPECT_EQ(List().columnWidth(0), room * 2 / 100);
+  EXPECT_TRUE(List().isColumnHidden(1));
+  EXPECT_EQ(List().columnWidth(2), room * 62 / 100);
   window_->lbContaining()->ColumnWidths("20%,20%,20%,20%,20%");
   EXPECT_EQ(model.columnCount(), 4) << "as many as it has";
 }
 
 TEST_F(Lists, ColumnsReachToTheFrameOrToTheScrollBar) {
   Open();
-  auto& list = Find<QTableView>("lbContaining");
-  auto& bar = *list.verticalScrollBar();
+  auto& bar = *List().verticalScrollBar();
   const int beside_bar = 385 - bar.sizeHint().width();
-  CountOfPaintings paintings(*list.viewport());
+  CountOfPaintings paintings(*List().viewport());
   for (const bool long_list : {true, false, true}) {
     paintings.count = 0;
     window_->lbContaining()->DeleteAllRows();
@@ -54,17 +52,17 @@ TEST_F(Lists, ColumnsReachToTheFrameOrToTheScrollBar) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return bar.isVisible() == long_list; }));
     QTest::qWait(20);
     EXPECT_EQ(paintings.count, 1);
-    EXPECT_EQ(list.horizontalScrollBar()->maximum(), 0);
-    EXPECT_EQ(list.columnWidth(0), beside_bar * 35 / 100);
-    EXPECT_EQ(list.columnWidth(1), beside_bar / 2);
-    const int end = list.columnViewportPosition(2) + list.columnWidth(2);
+    EXPECT_EQ(List().horizontalScrollBar()->maximum(), 0);
+    EXPECT_EQ(List().columnWidth(0), beside_bar * 35 / 100);
+    EXPECT_EQ(List().columnWidth(1), beside_bar / 2);
+    const int end = List().columnViewportPosition(2) + List().columnWidth(2);
     EXPECT_EQ(end, 385 - (long_list ? bar.width() : 0));
-    EXPECT_EQ(list.viewport()->geometry(), QRect(1, 1, end, 247)) << "and there are no headings";
-    const QRect row = Place(list, 1, 0);
+    EXPECT_EQ(List().viewport()->geometry(), QRect(1, 1, end, 247)) << "and there are no headings";
+    const QRect row = Place(1, 0);
     for (int y = row.top(); y <= row.bottom(); ++y) {
       for (const int x : {0, end - 1}) {
         hand_->ChooseRow(0);
-        QtHand::Click(*list.viewport(), {x, y});
+        QtHand::Click(*List().viewport(), {x, y});
         EXPECT_EQ(window_->lbContaining()->ListIndex(), 1) << x << ", " << y;
       }
     }
@@ -77,7 +75,7 @@ TEST_F(Lists, ColumnsReachToTheFrameOrToTheScrollBar) {
 TEST_F(Lists, BytesThatAreNoTextShowAsSuch) {
   Open("a\nb\n\xFF&,&S\xC3,TRUE,,,,,,,,,,,");
   hand_->Tick(0);
-  const auto* const model = Find<QTableView>("lbExact").model();
+  const auto* const model = List("lbExact").model();
   EXPECT_EQ(model->index(0, 0).data().toString(), QString::fromUtf8("\uFFFD&"));
   EXPECT_EQ(model->index(0, 1).data().toString(), QString::fromUtf8("&S\uFFFD"));
 }
@@ -93,18 +91,15 @@ TEST_F(Lists, TextWithLineBreaksStandsOnOneLine) {
       "",
   };
   for (const char* const name : names) window_->lbContaining()->AddRow({"", name, ""});
-  auto& list = Find<QTableView>("lbContaining");
-  const auto picture = [&](int row) {
-    return list.viewport()->grab(Place(list, row, 1)).toImage();
-  };
+  const auto picture = [&](int row) { return List().viewport()->grab(Place(row, 1)).toImage(); };
   EXPECT_EQ(picture(0), picture(2));
   EXPECT_EQ(picture(1), picture(2));
   EXPECT_EQ(picture(3), picture(4)) << "filled to its end, wherever a word ends";
-  const QRect empty = Place(list, 5, 0) | Place(list, 5, 2);
-  EXPECT_TRUE(Ink(list.viewport()->grab(empty).toImage()).isEmpty()) << "no grid";
+  const QRect empty = Place(5, 0) | Place(5, 2);
+  EXPECT_TRUE(Ink(List().viewport()->grab(empty).toImage()).isEmpty()) << "no grid";
   for (const float size : {0.F, 12.F, 13.F, 15.F, 30.F}) {
     window_->lbContaining()->TextSize(size);
-    EXPECT_EQ(list.rowHeight(0), std::ceil(QFontMetricsF(list.font()).height())) << size;
+    EXPECT_EQ(List().rowHeight(0), std::ceil(QFontMetricsF(List().font()).height())) << size;
   }
 }
 

@@ -72,7 +72,7 @@ TEST_P(AtEachScale, BoxesHaveOutlinesOnABlackGround) {
   for (const char* const name : {"cbScale0", "lbExact", "pmRoot"}) {
     EXPECT_GE(grey_at_the_left(Find(name)), 10) << name;
   }
-  EXPECT_LT(grey_at_the_left(*Find<QTableView>("lbContaining").verticalScrollBar()), 10);
+  EXPECT_LT(grey_at_the_left(*List().verticalScrollBar()), 10);
   Find("pmRoot").setFocus();
   EXPECT_LT(grey_at_the_left(Find("pmRoot")), 10) << "which the focus has a line of its own for";
 }
@@ -90,7 +90,7 @@ TEST_F(Outlines, FocusIsALineAroundAListAndAroundACaption) {
   }
   EXPECT_EQ(highlighted("lbExact"), 2 * (385 + 93) - 4) << "one point thick";
   QApplication::processEvents();
-  const CountOfPaintings paintings(*Find<QTableView>("lbExact").viewport());
+  const CountOfPaintings paintings(*List("lbExact").viewport());
   for (const char* const name : names) {
     Find(name).setFocus();
     QApplication::processEvents();
@@ -98,12 +98,11 @@ TEST_F(Outlines, FocusIsALineAroundAListAndAroundACaption) {
   EXPECT_EQ(paintings.count, 2);
 
   hand_->TickOther();
-  auto& list = Find<QTableView>("lbContaining");
-  list.setFocus();
+  List().setFocus();
   QApplication::processEvents();
-  list.verticalScrollBar()->setValue(5);
+  List().verticalScrollBar()->setValue(5);
   QApplication::processEvents();
-  const QRect place(list.mapTo(&Native(), QPoint()), list.size());
+  const QRect place(List().mapTo(&Native(), QPoint()), List().size());
   const QPixmap screen = Native().screen()->grabWindow(Native().winId());
   EXPECT_EQ(screen.copy(place).toImage(), Native().grab(place).toImage())
       << "the line does not scroll";

@@ -40,9 +40,12 @@ Widget& Find(const std::string& name) {
   return *widget;
 }
 
+/// The lower list, or another.
+inline QTableView& List(const std::string& name = "lbContaining") { return Find<QTableView>(name); }
+
 /// The place of a list's cell in its viewport, which is scrolled there, once the list shows its
 /// rows.
-inline QRect Place(QTableView& list, int row, int column) {
+inline QRect Place(int row, int column, QTableView& list = List()) {
   QApplication::processEvents();
   const QModelIndex cell = list.model()->index(row, column);
   list.scrollTo(cell);
@@ -119,8 +122,7 @@ class QtHand {
     QApplication::processEvents();
   }
   static void ClickRow(const char* list, int row, Qt::KeyboardModifiers with = {}) {
-    auto& view = Find<QTableView>(list);
-    Click(*view.viewport(), Place(view, row, 1).center(), with);
+    Click(*List(list).viewport(), Place(row, 1, List(list)).center(), with);
   }
 
   /// The screen shows what the controls hold.
@@ -133,7 +135,7 @@ class QtHand {
     }
     EXPECT_EQ(Find<QComboBox>("pmRoot").currentIndex(), window.pmRoot()->ListIndex());
     for (const auto& list : {window.lbExact(), window.lbContaining()}) {
-      const auto& view = Find<QTableView>(std::string(list->Name()));
+      const QTableView& view = List(std::string(list->Name()));
       const QAbstractItemModel& model = *view.model();
       ASSERT_EQ(model.rowCount(), list->LastIndex() + 1);
       for (int cell = 0; cell < model.rowCount() * 3; ++cell) {

@@ -43,18 +43,17 @@ class Tips : public OnScreen {
 
 TEST_F(Tips, AreTheHelpOfTheListWhereNoCutCellLies) {
   Open();
-  auto& list = Find<QTableView>("lbContaining");
-  QWidget& viewport = *list.viewport();
-  const std::string help = list.toolTip().toStdString();
+  QWidget& viewport = *List().viewport();
+  const std::string help = List().toolTip().toStdString();
   const QPoint places[] = {viewport.rect().center(), viewport.rect().topLeft(),
                            viewport.rect().topRight(), viewport.rect().bottomLeft()};
   for (const QPoint& place : places) EXPECT_EQ(At(viewport, place), help) << "an empty list";
   hand_->Tick(0);
   for (const QPoint& place : places) EXPECT_EQ(At(viewport, place), help) << "a few rows";
-  EXPECT_EQ(At(list, {0, 0}), help) << "the frame";
+  EXPECT_EQ(At(List(), {0, 0}), help) << "the frame";
   hand_->TickOther();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return list.verticalScrollBar()->isVisible(); }));
-  EXPECT_EQ(At(*list.verticalScrollBar(), {5, 5}), help) << "the scroll bar";
+  ASSERT_TRUE(QTest::qWaitFor([&] { return List().verticalScrollBar()->isVisible(); }));
+  EXPECT_EQ(At(*List().verticalScrollBar(), {5, 5}), help) << "the scroll bar";
 }
 
 TEST_F(Tips, LeaveARootAloneInAFontOfTwentyPixelsToo) {
@@ -65,9 +64,8 @@ TEST_F(Tips, LeaveARootAloneInAFontOfTwentyPixelsToo) {
   };
   Open();
   for (int row = 0; row < 30; ++row) window_->lbContaining()->AddRow({"", "", "G# / Ab"});
-  auto& list = Find<QTableView>("lbContaining");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return list.verticalScrollBar()->isVisible(); }));
-  EXPECT_EQ(At(*list.viewport(), Place(list, 1, 2).center()), list.toolTip().toStdString())
+  ASSERT_TRUE(QTest::qWaitFor([&] { return List().verticalScrollBar()->isVisible(); }));
+  EXPECT_EQ(At(*List().viewport(), Place(1, 2).center()), List().toolTip().toStdString())
       << "it is not cut";
 }
 
@@ -80,11 +78,10 @@ TEST_F(Tips, TellOfEachCellThatIsCut) {
     list->AddRow({"", "", text.substr(0, end) + "l"});
   }
   QApplication::processEvents();
-  auto& view = Find<QTableView>("lbContaining");
-  for (int row = 0; row < view.model()->rowCount(); ++row) {
-    const QRect place = Place(view, row, 2);
-    const int end = HeightOfTheEnd(view.viewport()->grab(place).toImage());
-    if (!At(*view.viewport(), place.center()).empty()) {
+  for (int row = 0; row < List().model()->rowCount(); ++row) {
+    const QRect place = Place(row, 2);
+    const int end = HeightOfTheEnd(List().viewport()->grab(place).toImage());
+    if (!At(*List().viewport(), place.center()).empty()) {
       EXPECT_LT(end, 5) << "an ellipsis";
       EXPECT_GT(row, 5);
       return;
@@ -109,11 +106,10 @@ TEST_F(Tips, TellACutCellWholeAndPlainHoweverItIsWritten) {
   };
   const auto list = window_->lbContaining();
   for (const QString& text : texts) list->AddRow({"", text.toStdString()});
-  auto& view = Find<QTableView>("lbContaining");
   for (int row = 0; row < static_cast<int>(std::size(texts)); ++row) {
-    EXPECT_EQ(ReadAt(*view.viewport(), Place(view, row, 1).center()), texts[row].toStdString());
+    EXPECT_EQ(ReadAt(*List().viewport(), Place(row, 1).center()), texts[row].toStdString());
     EXPECT_LT(OfTip().width(), 700) << "wrapped, row " << row;
-    const QString shown = view.model()->index(row, 1).data().toString();
+    const QString shown = List().model()->index(row, 1).data().toString();
     EXPECT_TRUE(texts[row].startsWith(shown)) << "cut at a character, row " << row;
   }
 }
@@ -142,9 +138,8 @@ TEST_F(Tips, AreNoHigherThanTheScreen) {
   const QString lines = QStringLiteral("a\u2028").repeated(10000);
   const auto list = window_->lbContaining();
   list->AddRow({std::string(1 << 20, 'm'), lines.toStdString(), high.toStdString()});
-  auto& view = Find<QTableView>("lbContaining");
   for (const int column : {0, 1, 2}) {
-    const std::string told = ReadAt(*view.viewport(), Place(view, 0, column).center());
+    const std::string told = ReadAt(*List().viewport(), Place(0, column).center());
     EXPECT_LE(OfTip().height(), screen.size().height());
     EXPECT_GT(OfTip().height(), screen.size().height() / 2);
     EXPECT_LE(OfTip().width(), screen.size().width());

@@ -59,11 +59,8 @@ class Portal final : public QDBusVirtualObject {
     const auto key = QString::fromStdString(word);
     const QVariant value = ValueOf({std::istream_iterator<double>(line), {}});
     if (!forged) values_[key] = value;
-    if (restarted) {
-      if (!Start()) std::cout << "no ";
-    } else {
-      Tell(key, value, forged ? Connection() : *bus_);
-    }
+    if (!restarted) return Tell(key, value, forged ? Connection() : *bus_);
+    if (!Start()) std::cout << "no ";
   }
 
  private:
