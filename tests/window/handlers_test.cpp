@@ -82,7 +82,7 @@ TEST_F(Handlers, OperationsOnTheUserInterfaceAreRefusedOffTheMainThread) {
       [&] { window_->cbScale(0)->Value(); },
       [&] { window_->cbScale(0)->Value(true); },
       [&] { window_->cbScale(0)->Index(0); },
-      [&] { window_->cbScale(0)->RectControl::Constructor(); },
+      [&] { window_->cbScale(0)->Window(); },
       [&] { window_->cbScale(0)->Caption("a"); },
       [&] { window_->lbStar(0)->Text("a"); },
       [&] { window_->lbStar(0)->Visible(true); },
