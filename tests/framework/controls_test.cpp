@@ -65,17 +65,15 @@ TEST_F(Controls, TellThePeerOfARealChangeAlone) {
 
 TEST_F(Controls, RaiseEventsForTheUserAndForAChosenRowThatGoes) {
   Show();
-  box_->Value(true);
   list_->AddRow({"a"});
   list_->DeleteAllRows();
-  EXPECT_THAT(toolkit_.Lines(), ElementsAre("box(3).Value", "list.Rows", "list.Rows"));
-  toolkit_.ClearLog();
   box_->Toggle();
   list_->AddRow({"a"});
   for (int twice = 0; twice < 2; ++twice) list_->Select(0);
   for (int twice = 0; twice < 2; ++twice) list_->DeleteAllRows();
-  EXPECT_THAT(toolkit_.Lines(), ElementsAre("box(3).Value", "ticked", "list.Rows", "list.ListIndex",
-                                            "changed", "list.Rows", "list.ListIndex", "changed"));
+  EXPECT_THAT(toolkit_.Lines(),
+              ElementsAre("list.Rows", "list.Rows", "box(3).Value", "ticked", "list.Rows",
+                          "list.ListIndex", "changed", "list.Rows", "list.ListIndex", "changed"));
 }
 
 TEST_F(Controls, GetTheirOpenOnceAlsoWhenTheWindowsOpenMakesThem) {
