@@ -27,10 +27,7 @@ constexpr const char* kNil = "failure NilObjectException";
 auto File(const std::string& bytes) {
   return [bytes](const std::string& path) { std::ofstream(path) << bytes; };
 }
-void MakeFolder(const std::string& path) { mkdir(path.c_str(), 0700); }
-void MakePipe(const std::string& path) { mkfifo(path.c_str(), 0600); }
 void LinkToZeros(const std::string& path) { std::filesystem::create_symlink("/dev/zero", path); }
-void MakeSocket(const std::string& path) { mknod(path.c_str(), S_IFSOCK | 0600, 0); }
 void TakeResourcesAway(const std::string&) {
   framework::SpecialFolder::_SetBundlePlatform(std::make_unique<TestBundle>(""));
 }
@@ -45,10 +42,10 @@ const Place kPlaces[] = {
                    "Bank,Twice,TRUE,,,,,,,,,,,"),
      {kLoadedMajor, "\"Q\" : \"a : 1536", "\xFF : Twice : 2048", "Bank : Twice : 2048", kNames}},
     {"thirteen fields", File(kStart + "Bank,S,,,,,,,,,,,\n" + kTriad), {kLoadedMajor, kTooShort}},
-    {"a folder", &MakeFolder, {kUnreadable, kNames}},
-    {"a pipe", &MakePipe, {kUnreadable, kNames}},
+    {"a folder", [](auto& path) { mkdir(path.c_str(), 0700); }, {kUnreadable, kNames}},
+    {"a pipe", [](auto& path) { mkfifo(path.c_str(), 0600); }, {kUnreadable, kNames}},
     {"a device without an end", &LinkToZeros, {kUnreadable, kNames}},
-    {"a socket", &MakeSocket, {kNil}},
+    {"a socket", [](auto& path) { mknod(path.c_str(), S_IFSOCK | 0600, 0); }, {kNil}},
     {"no resources", &TakeResourcesAway, {kNil}},
 };
 
