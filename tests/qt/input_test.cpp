@@ -72,6 +72,8 @@ TEST_F(Input, RowsAreChosenByKeysAndLetGoByMouse) {
   hand_->ChooseRow(2);
   QtHand::Click(*List().viewport(), List().viewport()->rect().bottomLeft());
   EXPECT_EQ(window_->lbContaining()->ListIndex(), -1) << "beside the rows";
+  window_->lbContaining()->Select(1);
+  hand_->ExpectMirrored(*window_);
 }
 
 TEST_F(Input, OnlyTheMainButtonDoesAnything) {
@@ -137,10 +139,13 @@ TEST_F(Input, MenusAreHiddenAndDisabledAsTheirItemsAre) {
 TEST_F(Input, EntriesThatDoSomethingAreEnabledAndClosingEndsTheRun) {
   Open();
   QString enabled;
+  int lines = 0;
   for (const QAction* const action : Native().findChildren<QAction*>()) {
     if (action->isEnabled()) enabled += action->objectName();
+    lines += action->isSeparator() && action->isVisible();
   }
   EXPECT_EQ(enabled, "FileQuit");
+  EXPECT_EQ(lines, 2);
   QTimer::singleShot(0, [] { Native().close(); });
   _RuntimeRun();
 }

@@ -38,6 +38,7 @@ TEST_F(Lists, ListsHaveThreeColumnsAndAreRefreshedOnce) {
   EXPECT_EQ(List().columnWidth(2), room * 62 / 100);
   window_->lbContaining()->ColumnWidths("20%,20%,20%,20%,20%");
   EXPECT_EQ(model.columnCount(), 4) << "as many as it has";
+  EXPECT_EQ(announced.count(), refreshed.count());
 }
 
 TEST_F(Lists, ColumnsReachToTheFrameOrToTheScrollBar) {

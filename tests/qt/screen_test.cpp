@@ -1,3 +1,4 @@
+#include <QLabel>
 #include <QTranslator>
 
 #include "qt/qt_hand.h"
@@ -89,6 +90,8 @@ TEST_F(Screen, CaptionRunsOnAsFarAsItsNeighbour) {
   other->Caption(std::string(15, 'm'));
   other->Bold(true);
   EXPECT_LE(box.sizeHint().width(), box.width()) << "bold letters are wider";
+  window_->Label4()->Text("Notes");
+  EXPECT_EQ(Find<QLabel>("Label4").text(), "Notes");
 }
 
 TEST_F(Screen, ControlsMadeLateComeOnIt) {
@@ -147,6 +150,11 @@ TEST_F(Screen, ChangeOfThePaletteIsToldOnce) {
   QTest::qWait(20);
   EXPECT_THAT(watcher->heard, ElementsAre(_MacOSDistributedNotifications::kThemeChanged,
                                           _MacOSDistributedNotifications::kColorsChanged));
+  QEvent theme(QEvent::ThemeChange);
+  QApplication::sendEvent(&Native(), &theme);
+  QApplication::processEvents();
+  EXPECT_GT(QApplication::palette().color(QPalette::Window).lightness(), 200)
+      << "no desktop says that it is dark";
 }
 
 }  // namespace
