@@ -43,8 +43,7 @@ PopupMenuPeer::PopupMenuPeer(const framework::Ref<framework::PopupMenu>& menu, Q
   });
 }
 
-void PopupMenuPeer::Title(const QString& title, ControlPeer& label) {
-  widget_->setAccessibleName(title);
+void PopupMenuPeer::Title(const QString&, ControlPeer& label) {
   // A screen reader takes the chosen entry for the name, but knows the label that belongs to it.
   static_cast<QLabel&>(label.Widget()).setBuddy(widget_);
 }
