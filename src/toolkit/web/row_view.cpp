@@ -41,7 +41,7 @@ void RowView::Reset(std::int64_t rows, std::int64_t chosen) {
     made_.emplace(row, std::move(made));
     ++row;
   }
-  MakeSeen();
+  Choose(chosen);
 }
 
 void RowView::Choose(std::int64_t row) {
