@@ -1,3 +1,4 @@
+#include <array>
 #include <cstdlib>
 #include <new>
 
@@ -93,6 +94,18 @@ TEST_F(OutOfMemory, AtAnyPlaceOfAPassIsReportedAndTheProgramLivesOn) {
     }
     EXPECT_GT(place, 30) << "in a pass over twelve roots";
   }
+}
+
+TEST_F(OutOfMemory, TheWayToTheGuardAsksForNone) {
+  Open();
+  const std::array<char, 100> much{'a'};
+  char seen = 0;
+  refused = false;
+  until_refusal = 0;
+  _RunEvent([much, &seen] { seen = much[0]; });
+  until_refusal = -1;
+  EXPECT_EQ(seen, 'a');
+  EXPECT_FALSE(refused);
 }
 
 }  // namespace

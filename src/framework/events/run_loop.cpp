@@ -107,7 +107,7 @@ void _RuntimeRun() {
   }
 }
 
-void _RunEvent(const std::function<void()>& work) noexcept {
+void _RunLent(const std::function<void()>& work) noexcept {
   std::exception_ptr failure;
   try {
     failure = State().exception_helper(&CallWork, const_cast<std::function<void()>*>(&work));

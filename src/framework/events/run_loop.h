@@ -45,11 +45,17 @@ void _RuntimeSetExceptionHelper(ExceptionFunction function);
 /// and is raised again here.
 void _RuntimeRun();
 
+/// What _RunEvent runs: holds a reference alone.
+void _RunLent(const std::function<void()>& work) noexcept;
 /// Runs one event of the user's or of the system's under the application-level handling. This is
 /// the one road on which a toolkit calls work of ours. Nothing is raised into the toolkit, whose
 /// code is between the event and the run loop: what that handling lets through ends the loop, and
-/// _RuntimeRun raises it. One inside another is an event of its own.
-void _RunEvent(const std::function<void()>& work) noexcept;
+/// _RuntimeRun raises it. One inside another is an event of its own. The work is lent for the call:
+/// the way to the guard asks for no memory, however much the work holds.
+template <class Work>
+void _RunEvent(const Work& work) noexcept {
+  _RunLent(std::cref(work));
+}
 /// The same road for what a toolkit asks: what the work returns, or otherwise where it fails.
 template <class Answer, class Work>
 Answer _RunQuestion(Answer otherwise, const Work& work) noexcept {

@@ -2,7 +2,6 @@
 
 #include <QMetaObject>
 #include <QObject>
-#include <functional>
 #include <type_traits>
 #include <utility>
 
@@ -33,8 +32,7 @@ void Connect(Sender* sender, Signal signal, QObject* context, Work work) {
 template <class Work>
 void RunLater(QObject* context, Work work) {
   QMetaObject::invokeMethod(
-      context, [work = std::move(work)] { framework::_RunEvent(std::cref(work)); },
-      Qt::QueuedConnection);
+      context, [work = std::move(work)] { framework::_RunEvent(work); }, Qt::QueuedConnection);
 }
 
 }  // namespace toolkit::qt
