@@ -50,18 +50,16 @@ Appearance::Appearance(QObject* application)
       style_began_dark_(IsDark(QApplication::style()->standardPalette())),
       told_(first_) {
   application->installEventFilter(this);
-  connect(&portal_, &SettingsPortal::Changed, this, [this] { FollowDesktop(); });
+  Connect(&portal_, &SettingsPortal::Changed, this, [this] { FollowDesktop(); });
 }
 
 bool Appearance::eventFilter(QObject* watched, QEvent* event) {
-  // A change may take several steps; what comes of it is told once.
-  if (event->type() == QEvent::ApplicationPaletteChange) {
-    RunLater(this, [this] { TellOfChange(); });
-  }
-  // The platform's theme may tell of a flip before the portal does, after it, or alone.
-  if (event->type() == QEvent::ThemeChange) {
-    RunLater(this, [this] { FollowDesktop(); });
-  }
+  framework::_RunEvent([this, type = event->type()] {
+    // A change may take several steps; what comes of it is told once.
+    if (type == QEvent::ApplicationPaletteChange) RunLater(this, [this] { TellOfChange(); });
+    // The platform's theme may tell of a flip before the portal does, after it, or alone.
+    if (type == QEvent::ThemeChange) RunLater(this, [this] { FollowDesktop(); });
+  });
   return QObject::eventFilter(watched, event);
 }
 

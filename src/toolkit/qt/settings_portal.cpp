@@ -7,6 +7,8 @@
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
 
+#include "toolkit/qt/guarded.h"
+
 namespace toolkit::qt {
 
 namespace {
@@ -48,7 +50,7 @@ SettingsPortal::SettingsPortal(QObject* parent) : QObject(parent) {
               SLOT(SettingChanged(QDBusMessage)));
   auto* const watcher =
       new QDBusServiceWatcher(kService, bus, QDBusServiceWatcher::WatchForOwnerChange, this);
-  connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+  Connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
           [this](const QString&, const QString&, const QString& owner) {
             owner_ = owner;
             if (!owner.isEmpty()) AskForAll();
@@ -67,7 +69,7 @@ void SettingsPortal::Ask(const QString& key) {
   call << kSpace << key;
   auto* const watcher =
       new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
-  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, key, watcher] {
+  Connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, key, watcher] {
     watcher->deleteLater();
     const QDBusPendingReply<QDBusVariant> reply = *watcher;
     // A refusal of the bus itself comes by the name that it goes by, not by one of a connection.
@@ -82,10 +84,12 @@ void SettingsPortal::Ask(const QString& key) {
 }
 
 void SettingsPortal::SettingChanged(const QDBusMessage& message) {
-  if (message.service() != owner_ || message.signature() != QLatin1String("ssv")) return;
-  const QVariantList parts = message.arguments();
-  if (parts[0].toString() != kSpace) return;
-  Take(parts[1].toString(), parts[2].value<QDBusVariant>().variant());
+  framework::_RunEvent([&] {
+    if (message.service() != owner_ || message.signature() != QLatin1String("ssv")) return;
+    const QVariantList parts = message.arguments();
+    if (parts[0].toString() != kSpace) return;
+    Take(parts[1].toString(), parts[2].value<QDBusVariant>().variant());
+  });
 }
 
 void SettingsPortal::Take(const QString& key, const QVariant& value) {
