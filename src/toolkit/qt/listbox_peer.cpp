@@ -54,8 +54,8 @@ void ListboxPeer::ShareColumns() {
 
 void ListboxPeer::RefreshLater() {
   if (refresh_pending_) return;
-  refresh_pending_ = true;
   RunLater(Context(), [this] { Refresh(); });
+  refresh_pending_ = true;
 }
 
 void ListboxPeer::Refresh() {
