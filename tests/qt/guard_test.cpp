@@ -1,6 +1,9 @@
+#include <sys/resource.h>
+
 #include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
+#include <new>
 #include <thread>
 
 #include "framework/events/msg_box.h"
@@ -92,6 +95,40 @@ TEST_F(Guarded, NothingIsThrownThroughTheToolkit) {
     EXPECT_THAT(Read(), HasSubstr("ThreadAccessingUIException"));
     while (QTest::qWaitFor([] { return Box() != nullptr; }, 50)) Read();
   }
+}
+
+/// Refuses a message box memory as it is shown.
+struct NoBox : QObject {
+  bool eventFilter(QObject* object, QEvent* event) override {
+    const bool shown = event->type() == QEvent::Polish && qobject_cast<QMessageBox*>(object);
+    return shown ? throw std::bad_alloc() : false;
+  }
+} no_box;
+void RefuseABox(bool refuse) {
+  refuse ? qApp->installEventFilter(&no_box) : qApp->removeEventFilter(&no_box);
+}
+
+/// Leaves no room for another mapping of memory.
+void RefuseRoom(bool refuse) {
+  rlimit room{};
+  getrlimit(RLIMIT_AS, &room);
+  room.rlim_cur = refuse ? 1 : room.rlim_max;
+  setrlimit(RLIMIT_AS, &room);
+}
+
+TEST_F(Guarded, WithoutMemoryForABoxTheLineIsAll) {
+  Open();
+  for (const auto refuse : {&RefuseABox, &RefuseRoom}) {
+    testing::internal::CaptureStderr();
+    toolkit_.ReportFailure("a failure");
+    refuse(true);
+    QCoreApplication::sendPostedEvents();
+    refuse(false);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Orrel Pitchsieve: a failure\n");
+    EXPECT_EQ(Box(), nullptr);
+  }
+  toolkit_.ReportFailure("a failure");
+  EXPECT_EQ(Read(), "a failure") << "which is told again";
 }
 
 }  // namespace

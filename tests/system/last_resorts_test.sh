@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # The built programs where the system has little to give: standard files that are closed, and memory
-# that it refuses, by a limit and at any call. Whatever it is, the program opens or says why it does
-# not, and it ends with a status.
-# usage: last_resorts_test.sh PROGRAM CHECKER REFUSING-LIBRARY
+# and threads that it refuses, by a limit and at any call. Whatever it is, the program opens or says
+# why it does not, and it ends with a status.
+# usage: last_resorts_test.sh PROGRAM CHECKER REFUSING-MEMORY REFUSING-THREADS
 set -euo pipefail
 program=$(realpath "$1")
 checker=$(realpath "$2")
-refusing=$(realpath "$3")
+refusing_memory=$(realpath "$3")
+refusing_threads=$(realpath "$4")
 . "$(dirname "$0")/on_x.sh"
 
 # Standard files that are closed: a failure is told all the same.
@@ -62,8 +63,33 @@ done
 [ "$seen" = window ] || fail "200 MB do not do"
 
 # Any request for memory of a start.
-refusing_after() { REFUSE_AFTER=$1 LD_PRELOAD=$refusing exec "$program"; }
+refusing_after() { REFUSE_AFTER=$1 LD_PRELOAD=$refusing_memory exec "$program"; }
 for requests in 0 1 2 3 5 10 20 50 100 300 500 1000 1500 2000 2500 3000 4000 5000 6000; do
   opened_or_refused "$(outcome refusing_after $requests)" "after $requests requests"
 done
+
+# Any thread of a run: some start late, as the ones that paint a root menu's gradient.
+no_thread='the system has no memory left for a thread, or allows none.'
+for threads in 0 1 2 3 4 5 6; do
+  THREADS=$threads LD_PRELOAD=$refusing_threads "$program" 2>"$work/stderr" &
+  id=$!
+  started+=("$id")
+  until=$((SECONDS + 20))
+  while kill -0 "$id" 2>/dev/null && [ $SECONDS -lt $until ]; do
+    window=$(xdotool search --onlyvisible --pid "$id" --name '^Orrel Pitchsieve$' 2>/dev/null) || continue
+    # The root menu is opened and used, as far as that goes, and the program is told to quit.
+    timeout 5 xdotool windowfocus --sync "$window" mousemove --window "$window" 70 80 click 1 sleep 0.2 \
+      key Down key Return sleep 0.2 key ctrl+q sleep 0.2 >/dev/null 2>&1 || true
+  done
+  ! kill -0 "$id" 2>/dev/null || fail "hangs with $threads threads"
+  status=0
+  wait "$id" || status=$?
+  case "$status $(cat "$work/stderr")" in
+    "1 No window can be opened: $no_thread") ;;
+    "1 The program cannot go on: $no_thread") late=$threads ;;
+    "0 ") enough=$threads ;;
+    *) fail "with $threads threads: status $status, $(cat "$work/stderr")" ;;
+  esac
+done
+[ -n "${late:-}" ] && [ -n "${enough:-}" ] || fail "no thread was refused late, or there were never enough"
 echo "Opened without standard files; said what was wanting, up to $last_refusal KiB and at any request."

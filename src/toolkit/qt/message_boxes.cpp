@@ -2,10 +2,11 @@
 
 #include <QApplication>
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "toolkit/qt/guarded.h"
-#include "toolkit/qt/start_guard.h"
+#include "toolkit/qt/room.h"
 
 namespace toolkit::qt {
 
@@ -19,10 +20,22 @@ constexpr std::size_t kRoomForABox = std::size_t{8} << 20;
 void MessageBoxes::Add(QMessageBox::Icon icon, const QString& text) {
   RunLater(this, [this, message = Message{icon, text}] {
     --on_the_way_;
-    if (std::ranges::find(waiting_, message) == waiting_.end()) waiting_.push_back(message);
-    ShowNext();
+    OrDrop([&] {
+      if (std::ranges::find(waiting_, message) == waiting_.end()) waiting_.push_back(message);
+      ShowNext();
+    });
   });
   ++on_the_way_;
+}
+
+template <class Work>
+void MessageBoxes::OrDrop(const Work& work) {
+  try {
+    work();
+  } catch (const std::bad_alloc&) {
+    waiting_.clear();
+    delete box_;
+  }
 }
 
 void MessageBoxes::WaitUntilRead() {
@@ -32,7 +45,7 @@ void MessageBoxes::WaitUntilRead() {
 }
 
 void MessageBoxes::ShowNext() {
-  // Qt does not survive a refusal in the making of a box. What was told is on stderr.
+  // Qt may not survive a refusal in the making of a box.
   if (!HasRoom(kRoomForABox)) waiting_.clear();
   if (box_ != nullptr || waiting_.empty()) return;
   const Message message = std::move(waiting_.front());
@@ -42,7 +55,7 @@ void MessageBoxes::ShowNext() {
   box_->setTextFormat(Qt::PlainText);
   Connect(box_.get(), &QMessageBox::finished, box_.get(), [this] { box_->deleteLater(); });
   Connect(box_.get(), &QObject::destroyed, this,
-          [this] { RunLater(this, [this] { ShowNext(); }); });
+          [this] { RunLater(this, [this] { OrDrop([this] { ShowNext(); }); }); });
   box_->show();
 }
 

@@ -31,6 +31,10 @@ class MessageBoxes final : public QObject {
   };
 
   void ShowNext();
+  /// Does the work, or without memory for it drops what waits: what is told stands on stderr, and
+  /// to tell of the refusal too would never end.
+  template <class Work>
+  void OrDrop(const Work& work);
 
   QString title_;
   std::atomic<int> on_the_way_ = 0;  ///< from where they were added to the event loop

@@ -4,8 +4,8 @@
 #include <QIcon>
 #include <QTimer>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
-#include <iostream>
 #include <new>
 #include <utility>
 
@@ -47,8 +47,8 @@ void QtToolkit::Initialise() {
                             ? Qt::HighDpiScaleFactorRoundingPolicy::PassThrough
                             : Qt::HighDpiScaleFactorRoundingPolicy::Floor;
   QApplication::setHighDpiScaleFactorRoundingPolicy(rounding);
-  StartGuard::AskForRoom();
-  StartGuard::Do([this] {
+  PlainEnd::AskForRoom();
+  PlainEnd::Do([this] {
     application_ = std::make_unique<QApplication>(argument_count_, arguments_);
     if (QApplication::style()->name() == QLatin1String(OutlineStyle::kBase)) {
       QApplication::setStyle(new OutlineStyle);
@@ -66,12 +66,12 @@ void QtToolkit::Initialise() {
 }
 
 std::unique_ptr<WindowPeer> QtToolkit::Show(const Ref<Window>& window) {
-  auto native = StartGuard::Do([&window] {
+  auto native = PlainEnd::Do([&window] {
     auto made = std::make_unique<NativeWindow>(window);
     made->show();
     return made;
   });
-  start_.reset();
+  PlainEnd::WindowIsShown();
   return native;
 }
 
@@ -93,7 +93,7 @@ void QtToolkit::WaitUntilRead() {
 }
 
 void QtToolkit::Tell(QMessageBox::Icon icon, std::string_view text) {
-  std::cerr << name_ << ": " << text << std::endl;
+  std::fprintf(stderr, "%s: %.*s\n", name_.c_str(), static_cast<int>(text.size()), text.data());
   try {
     boxes_.Add(icon, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
   } catch (const std::bad_alloc&) {

@@ -2,13 +2,12 @@
 
 #include <QApplication>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include "framework/events/toolkit.h"
 #include "toolkit/qt/message_boxes.h"
-#include "toolkit/qt/start_guard.h"
+#include "toolkit/qt/plain_end.h"
 
 namespace toolkit::qt {
 
@@ -35,7 +34,7 @@ class QtToolkit : public framework::Toolkit {
  private:
   void Tell(QMessageBox::Icon icon, std::string_view text);
 
-  std::optional<StartGuard> start_{std::in_place};
+  PlainEnd plain_end_;
   std::string name_;
   std::string desktop_entry_;
   int argument_count_ = 1;
