@@ -65,7 +65,8 @@ class RuntimeException {
   std::int64_t error_number_ = 0;
 };
 
-/// What a class of the family adds to its base: its name, and that it is raised whole.
+/// What a class of the family adds to its base: its name, and that it is raised whole. Without it
+/// a class is raised as its base.
 template <class Self, class Base = RuntimeException>
 class Failure : public Base {
  public:
