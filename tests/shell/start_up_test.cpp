@@ -65,4 +65,13 @@ TEST_F(StartUp, AnyFailureBeforeTheRunReachesTheOutermostBlock) {
   }
 }
 
+TEST_F(StartUp, AFailureBehindTheRunIsToldAndHasItsStatus) {
+  toolkit_.Observe([](const std::string& line) {
+    if (line == "run") window::wdwMain()->Close();
+    if (line == "wait until read") throw 1;
+  });
+  EXPECT_EQ(shell::main(), 1);
+  EXPECT_EQ(toolkit_.Lines().back(), "failure A failure of an unknown class.");
+}
+
 }  // namespace

@@ -130,6 +130,7 @@ void _UnhandledException(const std::exception_ptr& exception) noexcept {
 }
 
 int _EndRunLoop() {
+  if (State().escaped != nullptr) _UnhandledException(State().escaped);
   const int status = State().exit_status;
   State() = {};
   return status;

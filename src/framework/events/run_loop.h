@@ -70,7 +70,7 @@ void UnhandledException(const RuntimeException& exception) noexcept;
 void _UnhandledException(const std::exception_ptr& exception) noexcept;
 
 /// Ends the run. The exit status: 0 after a normal end, 1 after a failure that left the outermost
-/// block.
+/// block, or an event behind it: that one is reported here.
 int _EndRunLoop();
 
 }  // namespace framework
