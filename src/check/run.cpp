@@ -1,6 +1,7 @@
 #include "check/run.h"
 
 #include <cerrno>
+#include <new>
 #include <string>
 #include <system_error>
 
@@ -60,7 +61,7 @@ std::string Why(int error) {
 
 }  // namespace
 
-int Run(std::span<const char* const> arguments, const Print& out, const Print& err) {
+int Run(std::span<const char* const> arguments, const Print& out, const Print& err) try {
   bool ended = false;  // the options
   std::vector<std::string> paths;
   for (const std::string argument : arguments) {
@@ -90,6 +91,9 @@ int Run(std::span<const char* const> arguments, const Print& out, const Print& e
     err(path + ": " + Why(static_cast<int>(failure.ErrorNumber())) + "\n");
     return kUnreadable;
   }
+} catch (const std::bad_alloc&) {
+  err("orrel-check-library: the system has no memory left\n");
+  return kUnreadable;
 }
 
 }  // namespace check

@@ -68,6 +68,15 @@ for requests in 0 1 2 3 5 10 20 50 100 300 500 1000 1500 2000 2500 3000 4000 500
   opened_or_refused "$(outcome refusing_after $requests)" "after $requests requests"
 done
 
+# The checker with a library that needs more than there is.
+seq -f 'Bank,Scale %.0f,TRUE,FALSE,TRUE,FALSE,TRUE,TRUE,FALSE,TRUE,FALSE,TRUE,FALSE,TRUE' 200000 >"$work/large.csv"
+check_limited() { ulimit -v "$1" && "$checker" "$work/large.csv" 2>&1; }
+for limit in 8000 10000 12000; do
+  status=0
+  said=$(check_limited $limit) || status=$?
+  [ "$status $said" = "3 orrel-check-library: the system has no memory left" ] || fail "with $limit KiB the checker ends with $status: $said"
+done
+
 # Any thread of a run: some start late, as the ones that paint a root menu's gradient.
 no_thread='the system has no memory left for a thread, or allows none.'
 for threads in 0 1 2 3 4 5 6; do
