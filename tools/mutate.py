@@ -10,10 +10,12 @@ mistake that no test noticed, and for each folder the share that they did. The s
 95 % or more in every folder. What it needs is what .ci/run installs.
 """
 import collections
+import contextlib
 import os
 import pathlib
 import re
 import shlex
+import signal
 import subprocess
 import sys
 
@@ -31,7 +33,8 @@ ON_THE_DESKTOP = STARTED + [
     SYSTEM + "orca_test.sh orrel-pitchsieve", SYSTEM + "accessibility_test.sh orrel-pitchsieve",
     SYSTEM + "wayland_test.sh orrel-pitchsieve",
     SYSTEM + "platform_theme_test.sh orrel-pitchsieve tests/settings_portal"]
-STARTED_TARGETS = ["orrel-pitchsieve", "orrel-check-library", "settings_portal", "refuse_memory"]
+STARTED_TARGETS = ["orrel-pitchsieve", "orrel-check-library", "settings_portal", "refuse_memory",
+                   "refuse_threads"]
 PAGE = ["ctest --stop-on-failure -R page_layout", "ctest --stop-on-failure -E page_monkey"]
 
 # The tests that are to notice a mistake in a folder, which stands for what lies below it: the targets
@@ -52,7 +55,7 @@ NOTICED_BY = {
     "src/main.cpp": (STARTED_TARGETS, STARTED),
 }
 OF_THE_PAGE = ["src/toolkit/web", "src/page"]
-SECONDS = 60  # a mistake that makes a test program run longer is noticed
+SECONDS = 60  # a mistake that makes a test program run longer is noticed, and tenfold any other test
 WANTED = 95
 
 # What is written around blanks is an operator here, as the format has it; the rest is of templates.
@@ -85,12 +88,17 @@ def mutants_of(text):
             yield number, line, line[:m.start()] + str(int(m.group()) + 1) + line[m.end():]
 
 
-def passes(command, **options):
+def passes(command, timeout=None, **options):
+    """Whether the command ends with 0, and in time; of what it has started nothing goes on."""
+    process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                               start_new_session=True, **options)
     try:
-        return subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                              **options).returncode == 0
+        return process.wait(timeout) == 0
     except subprocess.TimeoutExpired:
         return False
+    finally:
+        with contextlib.suppress(ProcessLookupError):
+            os.killpg(process.pid, signal.SIGKILL)
 
 
 def copy(root, tree):
@@ -127,7 +135,7 @@ class Tests:
 
     def pass_with(self, command):
         if not command.startswith("tests/"):
-            return passes(shlex.split(command), cwd=self.build)
+            return passes(shlex.split(command), timeout=10 * SECONDS, cwd=self.build)
         quiet = dict(os.environ, QT_QPA_PLATFORM="offscreen",
                      DBUS_SESSION_BUS_ADDRESS="disabled:")
         return passes([self.build / command, "--gtest_fail_fast"], timeout=SECONDS, env=quiet)
