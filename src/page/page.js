@@ -30,8 +30,26 @@
       end();
     };
     const quit = (status, failure) => { if (status !== 0) fail(failure); };
-    const launch = more => OrrelPitchsieve(
-        { wasmBinary: code, library, signal, fail, quit, ...more }).catch(fail);
+    // What the page does for the program: a failure in it is told here, as itself. The program can only
+    // end of it.
+    const guarded = what => typeof what !== 'function'
+        ? new Proxy(what, { get: (all, name) => guarded(all[name]) })
+        : (...values) => {
+          try {
+            return what(...values);
+          } catch (failure) {
+            if (failure instanceof Error) fail(failure);
+            throw failure;
+          }
+        };
+    const launch = more => new Promise((done, failed) => {
+      const instantiateWasm = (imports, begin) => {
+        WebAssembly.instantiate(code, guarded(imports))
+            .then(({ instance }) => begin(instance)).catch(failed);
+        return {};
+      };
+      OrrelPitchsieve({ instantiateWasm, library, signal, fail, quit, ...more }).then(done, failed);
+    }).catch(fail);
     at('desk').replaceChildren();
     at('ended').hidden = true;
     report(name, '', !!name);

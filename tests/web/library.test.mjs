@@ -183,10 +183,19 @@ function breakOn(text) {
     return whole.call(this, name, value);
   };
 }
+function keepLog() {
+  window.logged = [];
+  for (const level of ['warn', 'error']) console[level] = (what) => logged.push(String(what));
+}
 
-testIn('Chromium', 'the page says so when the program has ended, and of no other failure', async (hand) => {
+async function ends(hand) {
   const { puppet } = hand.page;
   const ended = () => puppet.$eval('#ended', (element) => element.checkVisibility());
+  const expectEnd = () => eventually(async () => {
+    assert.equal(await ended(), true);
+    assert.deepEqual(await puppet.evaluate(() => logged), ['Error: provoked']);
+  });
+  await puppet.evaluateOnNewDocument(keepLog);
   await hand.open(addressOf(html));
   await puppet.evaluate(() => new Promise((done) => {
     addEventListener('error', () => setTimeout(done));
@@ -197,9 +206,12 @@ testIn('Chromium', 'the page says so when the program has ended, and of no other
   assert.equal(await ended(), false);
   await puppet.evaluate(breakOn, 'true');
   await hand.chooseRow(0);
-  await eventually(async () => assert.equal(await ended(), true));
+  await expectEnd();
   assert.equal(await puppet.$('#lbContaining'), null);
   await puppet.evaluateOnNewDocument(breakOn, 'lbContaining');  // at the start already
   await puppet.reload();
-  await eventually(async () => assert.equal(await ended(), true));
-});
+  await expectEnd();
+}
+for (const browser of ['Chromium', 'Firefox']) {
+  testIn(browser, 'the page says so when the program has ended, and of no other failure', ends);
+}

@@ -2,6 +2,7 @@
 
 #include <emscripten.h>
 
+#include <exception>
 #include <utility>
 
 #include "framework/application/runtime.h"
@@ -24,6 +25,12 @@ void FollowAppearance() {
 }
 
 }  // namespace
+
+WebToolkit::WebToolkit() {
+  // A failure of the page's script ends the program. To stop by abort would raise another such
+  // failure, and so on; a trap can be caught only outside.
+  std::set_terminate([] { __builtin_trap(); });
+}
 
 void WebToolkit::Initialise() { FollowAppearance(); }
 

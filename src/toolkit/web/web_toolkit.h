@@ -14,6 +14,7 @@ class PageWindow;
 /// browser and does not come back; what a program does behind it is done when the loop is to end.
 class WebToolkit final : public framework::Toolkit {
  public:
+  WebToolkit();
   void Initialise() override;
   std::unique_ptr<framework::WindowPeer> Show(
       const framework::Ref<framework::Window>& window) override;
