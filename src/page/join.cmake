@@ -1,24 +1,29 @@
-# The program as one file, orrel-pitchsieve.html: the code with its starter, the style and the library
-# stand in it.
-add_executable(orrel-pitchsieve page/main.cpp)
-target_link_libraries(orrel-pitchsieve PRIVATE page shell pitchsieve_options)
-target_link_options(orrel-pitchsieve PRIVATE
-  -sMODULARIZE=1 -sEXPORT_NAME=OrrelPitchsieve -sENVIRONMENT=web -sTEXTDECODER=2
-  -sALLOW_MEMORY_GROWTH=1 -sINITIAL_MEMORY=4MB -sTOTAL_STACK=512KB -sMALLOC=emmalloc
-  "SHELL:--js-library ${CMAKE_CURRENT_LIST_DIR}/../toolkit/web/dom.js"
-  "SHELL:--js-library ${CMAKE_CURRENT_LIST_DIR}/library.js")
-set_target_properties(orrel-pitchsieve PROPERTIES LINK_DEPENDS
-  "${CMAKE_CURRENT_LIST_DIR}/../toolkit/web/dom.js;${CMAKE_CURRENT_LIST_DIR}/library.js")
+# add_page(NAME sources... LINKS targets...)
+# A program as one file, NAME.html: the code with its starter, the style and the library stand in it.
+# The target of the file is NAME-page.
+function(add_page name)
+  cmake_parse_arguments(PARSE_ARGV 1 page "" "" "LINKS")
+  find_package(Python3 REQUIRED COMPONENTS Interpreter)
+  set(page_folder ${CMAKE_CURRENT_FUNCTION_LIST_DIR})
+  set(operations ${page_folder}/../toolkit/web/dom.js ${page_folder}/library.js)
+  add_executable(${name} EXCLUDE_FROM_ALL ${page_UNPARSED_ARGUMENTS})
+  target_link_libraries(${name} PRIVATE ${page_LINKS} pitchsieve_options)
+  target_link_options(${name} PRIVATE
+    -sMODULARIZE=1 -sEXPORT_NAME=OrrelPitchsieve -sENVIRONMENT=web -sTEXTDECODER=2
+    -sALLOW_MEMORY_GROWTH=1 -sINITIAL_MEMORY=4MB -sTOTAL_STACK=512KB -sMALLOC=emmalloc)
+  foreach(script ${operations})
+    target_link_options(${name} PRIVATE "SHELL:--js-library ${script}")
+  endforeach()
+  set_target_properties(${name} PROPERTIES LINK_DEPENDS "${operations}")
 
-find_package(Python3 REQUIRED COMPONENTS Interpreter)
-set(parts page/page.html page/page.css page/page.js)
-list(TRANSFORM parts PREPEND ${PROJECT_SOURCE_DIR}/src/)
-set(scales "${PROJECT_SOURCE_DIR}/resources/Orrel Scales.csv")
-set(page ${PROJECT_BINARY_DIR}/orrel-pitchsieve.html)
-add_custom_command(OUTPUT ${page}
-  COMMAND Python3::Interpreter ${CMAKE_CURRENT_LIST_DIR}/join.py
-    ${parts} $<TARGET_FILE:orrel-pitchsieve> $<TARGET_FILE_DIR:orrel-pitchsieve>/orrel-pitchsieve.wasm
-    ${scales} ${page}
-  DEPENDS orrel-pitchsieve page/join.py ${parts} ${scales}
-  VERBATIM)
-add_custom_target(page-file ALL DEPENDS ${page})
+  set(parts page.html page.css page.js)
+  list(TRANSFORM parts PREPEND ${page_folder}/)
+  set(scales "${PROJECT_SOURCE_DIR}/resources/Orrel Scales.csv")
+  set(page ${PROJECT_BINARY_DIR}/${name}.html)
+  add_custom_command(OUTPUT ${page}
+    COMMAND Python3::Interpreter ${page_folder}/join.py
+      ${parts} $<TARGET_FILE:${name}> $<TARGET_FILE_DIR:${name}>/${name}.wasm ${scales} ${page}
+    DEPENDS ${name} ${page_folder}/join.py ${parts} ${scales}
+    VERBATIM)
+  add_custom_target(${name}-page DEPENDS ${page})
+endfunction()

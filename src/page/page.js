@@ -48,7 +48,7 @@
             .then(({ instance }) => begin(instance)).catch(failed);
         return {};
       };
-      OrrelPitchsieve({ instantiateWasm, library, signal, fail, quit, ...more }).then(done, failed);
+      OrrelPitchsieve({ instantiateWasm, library, signal, fail, end, quit, ...more }).then(done, failed);
     }).catch(fail);
     at('desk').replaceChildren();
     at('ended').hidden = true;

@@ -32,6 +32,7 @@ void page_Take();
 void page_TellCut();
 void page_Alert(const char* text, std::size_t size);
 void page_Log(const char* text, std::size_t size);
+void page_End();
 
 void page_Heard(PageCall* listener);
 /// Takes the work over.

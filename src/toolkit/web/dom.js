@@ -118,4 +118,5 @@ mergeInto(LibraryManager.library, {
   page_Alert: function (bytes, size) { alert(text(bytes, size)); },
   page_Log__deps: ['$text'],
   page_Log: function (bytes, size) { console.error(text(bytes, size)); },
+  page_End: function () { Module.end(); },
 });

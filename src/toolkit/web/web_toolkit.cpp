@@ -75,7 +75,7 @@ void WebToolkit::End() {
   ShowEnd();
 }
 
-void WebToolkit::ShowEnd() { Element::Of("ended").Show(true); }
+void WebToolkit::ShowEnd() { page_End(); }
 
 }  // namespace toolkit::web
 

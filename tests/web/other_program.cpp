@@ -1,0 +1,70 @@
+// A program on the page's toolkit that does what the one that ships never does: it shows what it
+// hears of the system's appearance, fails with what is no failure of the framework's, and quits.
+#include "framework/application/runtime.h"
+#include "framework/controls/check_box.h"
+#include "framework/controls/label.h"
+#include "framework/controls/window.h"
+#include "toolkit/web/web_toolkit.h"
+
+namespace {
+
+using namespace framework;
+
+struct OtherWindow final : Window {
+  void Layout() override {
+    Title("Another Program");
+    Width(300);
+    Height(100);
+    Visible(true);
+  }
+  void CreateControls() override {
+    heard = Make<Label>("heard", 10);
+    AnswerBy<&OtherWindow::Fail>(Make<CheckBox>("fail", 40));
+    AnswerBy<&OtherWindow::Quit>(Make<CheckBox>("quit", 70));
+  }
+  void Fail(const Ref<CheckBox>&) { throw 1; }
+  void Quit(const Ref<CheckBox>&) { Toolkit::Current().Quit(); }
+
+  template <class C>
+  Ref<C> Make(const char* name, std::int64_t top) {
+    auto control = __New<C>();
+    control->Name(name);
+    control->Left(10);
+    control->Top(top);
+    control->Width(200);
+    control->Height(20);
+    control->Visible(true);
+    control->Enabled(true);
+    _AddControl(name, control);
+    control->Constructor();
+    return control;
+  }
+  template <auto kMethod>
+  void AnswerBy(const Ref<CheckBox>& box) {
+    RuntimeAddEventHandler(box, CheckBox::kAction,
+                           RuntimeCreateDelegate<kMethod>(Ref<OtherWindow>(this), "( CheckBox )"));
+  }
+
+  Ref<Label> heard;
+};
+
+struct OtherApp final : Application {
+  void _MacOSNotificationReceived(const String& name) override { window->heard->Text(name); }
+  Ref<OtherWindow> window;
+};
+
+}  // namespace
+
+int main() {
+  static toolkit::web::WebToolkit toolkit;
+  RuntimeInit();
+  RuntimePerformInitializers({});
+  const auto app = RuntimeNewObject<OtherApp>();
+  _RuntimeRegisterAppObject(app);
+  _RunFrameworkInitialization([] {
+    const auto window = RuntimeNewObject<OtherWindow>();
+    RuntimeCheckCast<OtherApp>(getAppObject())->window = window;
+    window->Constructor();
+  });
+  _RuntimeRun();
+}
