@@ -54,6 +54,7 @@ const dropped = [
     [`<b>&amp;"|${markup}|C`]],
   ['bytes that are no text', noText, [], /line 3/i, [shownAs]],
   ['a short line', library(major, 'Bank,short'), [outOfBounds], /line 4/i, ['Bank|Major|C']],
+  ['semicolons', fourScales.replaceAll(',', ';'), [outOfBounds], /\nerror: found semicolons/, []],
   ['nothing in it', '', [], /0 scales/, []],
 ];
 /// By the driver in Chromium; the others' have no way, so the page gets the events of a drop.
