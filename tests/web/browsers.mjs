@@ -1,4 +1,4 @@
-// The browsers, each behind the same operations: open(url) shows a page, run(f, values...) runs a
+// The browsers, each behind the same operations: open(url) shows a page and reload() loads it again, run(f, values...) runs a
 // function in it, click(x, y) and key(name) are the user's hands. Each message of the page's is read
 // and closed, and hear() has them all since told was last emptied.
 import { mkdtemp, rm } from 'node:fs/promises';
@@ -34,6 +34,7 @@ class PuppetPage {
     return page;
   }
   async open(url) { await this.puppet.goto(url); }
+  async reload() { await this.puppet.reload(); }
   async hear() { return this.told; }
   run(f, ...values) { return this.puppet.evaluate(f, ...values); }
   async click(x, y, { ctrl = false } = {}) {

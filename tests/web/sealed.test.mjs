@@ -2,7 +2,7 @@
 import assert from 'node:assert/strict';
 import { createHash } from 'node:crypto';
 import { eventually, testInEach } from './hand.mjs';
-import { addressOf, html, serve } from './page.mjs';
+import { addressOf, file, html, library, line, serve } from './page.mjs';
 
 // What a script of the page could try, with an address that is not the page's. Each says whether it
 // got through.
@@ -54,8 +54,8 @@ function tempted(outside) {
 const kept = async () => ({
   local: localStorage.length, session: sessionStorage.length, cookies: document.cookie,
   databases: (await indexedDB.databases?.())?.length ?? 0,
-  caches: globalThis.caches ? (await caches.keys()).length : 0,
-  workers: (await navigator.serviceWorker?.getRegistrations())?.length ?? 0,
+  caches: (await globalThis.caches?.keys().catch(() => []))?.length ?? 0,
+  workers: (await navigator.serviceWorker?.getRegistrations().catch(() => []))?.length ?? 0,
 });
 const nothing = { local: 0, session: 0, cookies: '', databases: 0, caches: 0, workers: 0 };
 
@@ -70,12 +70,21 @@ testInEach('the page asks for nothing, lets nothing in and keeps nothing', async
     for (const note of [0, 4, 7]) await hand.tick(note);
     await hand.chooseRow(0);
     await eventually(async () => assert.ok((await hand.look()).stars.includes(7), 'it works'));
-    if (url === server.url) assert.deepEqual(await hand.page.run(kept), nothing);
     const policy = await hand.page.run(
       () => document.querySelector('meta[http-equiv=Content-Security-Policy]').content);
     assert.match(policy, /^default-src 'none'/);
     assert.doesNotMatch(policy, /'unsafe-|https?:|\*|data:|blob:/);
+    await hand.drop(file('mine.csv', library(line('Mine', '110000000000'))));
+    const expectRows = (count) => eventually(async () => {
+      const { ticked, lbContaining } = await hand.look();
+      if (ticked.length === 0) await hand.tick(0);
+      assert.equal(lbContaining.count, count);
+    });
+    await expectRows(1);
+    await hand.page.reload();
+    await expectRows(682);
+    assert.deepEqual(await hand.page.run(kept), nothing, url);
   }
-  assert.deepEqual([server.asked, outside.asked], [['/'], []], 'no request after the file itself');
+  assert.deepEqual([server.asked, outside.asked], [['/', '/'], []], 'no request after the file itself');
   assert.deepEqual(await hand.page.hear(), []);
 });

@@ -68,6 +68,7 @@ export class WebKitPage {
     await this.command('POST', '/url', { url });
     await this.hear();
   }
+  async reload() { await this.command('POST', '/refresh', {}); }
   run(f, ...args) {
     return this.command('POST', '/execute/sync', { script: `return (${f})(...arguments)`, args });
   }
