@@ -52,7 +52,7 @@
     }).catch(fail);
     at('desk').replaceChildren();
     at('ended').hidden = true;
-    report(name, '', !!name);
+    report(name);
     if (name) {
       await launch({ check: true });
       await new Promise(done => setTimeout(done, 50));  // for the eye to meet what was found
@@ -60,15 +60,20 @@
     if (!signal.aborted) await launch({});
   }
 
-  // What is said of a file, and whether it has been taken. The place of the summary stays, or a
-  // screen reader would not hear of what is written there.
-  function report(name, summary, taken) {
-    at('report').className = name && 'told';
-    at('report-title').hidden = !name;
-    at('report-rest').hidden = !taken;
+  // What is said of the user's library that is in use. The place of the summary stays, or a screen
+  // reader would not hear of what is written there.
+  function report(name) {
+    at('report-title').hidden = at('report-rest').hidden = !name;
     at('report-title').textContent = name;
-    at('report-summary').textContent = summary;
+    at('report-summary').textContent = '';
     at('report-faults').replaceChildren();
+    refuse('');
+  }
+
+  // Says why what was given last is not taken. What is in use, and what is said of it, stays.
+  function refuse(why) {
+    at('refusal').textContent = why;
+    at('report').className = why || at('report-title').textContent ? 'told' : '';
   }
 
   function end() {
@@ -77,19 +82,21 @@
     at('ended').hidden = false;
   }
 
-  async function open(file) {
+  async function open([file, ...others]) {
+    if (others.length > 0) return refuse('One library at a time: drop its file alone.');
     let bytes;
     try {
       bytes = await file.arrayBuffer();
     } catch (failure) {
-      return report(file.name, 'This file cannot be read.', false);
+      return refuse(file.name + ' cannot be read.');
     }
     await start(new Uint8Array(bytes), file.name);
   }
 
   // One after the other: the last one stays, and each report is of one file.
-  function queue(file) {
-    if (file) started = started.then(() => open(file));
+  function queue(list) {
+    const files = [...list];
+    if (files.length > 0) started = started.then(() => open(files));
   }
 
   // To ask for the width has the page laid out, so a page that is wide enough is not asked.
@@ -113,11 +120,11 @@
   at('offer').hidden = false;
   addEventListener('resize', fit);
   at('own').addEventListener('change', e => {
-    queue(e.target.files[0]);
+    queue(e.target.files);
     e.target.value = '';  // or the same file, once it is mended, would be no change
   });
   addEventListener('dragover', e => e.preventDefault());
-  addEventListener('drop', e => { e.preventDefault(); queue(e.dataTransfer.files[0]); });
+  addEventListener('drop', e => { e.preventDefault(); queue(e.dataTransfer.files); });
   fit();
 
   // In a script element, a few texts cannot stand as they are: a backslash stands in them.

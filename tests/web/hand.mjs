@@ -98,23 +98,23 @@ export class Hand {
     await this.page.click(...place, options);
   }
   chooseExactRow(row) { return this.chooseRow(row, 'lbExact'); }
-  /// Drops a file on the page: by the driver in Chromium; the others' have no way, so the page gets the
+  /// Drops files on the page: by the driver in Chromium; the others' have no way, so the page gets the
   /// events of a drop.
-  async drop(path) {
+  async drop(...paths) {
     const { protocol } = this.page;
-    const data = { items: [], files: [path], dragOperationsMask: 1 };
+    const data = { items: [], files: paths, dragOperationsMask: 1 };
     for (const type of protocol ? ['dragEnter', 'dragOver', 'drop'] : []) {
       await protocol.send('Input.dispatchDragEvent', { type, x: 300, y: 300, data });
     }
     if (protocol) return;
     await this.page.run((bytes) => {
       const dataTransfer = new DataTransfer();
-      dataTransfer.items.add(new File([new Uint8Array(bytes)], 'mine.csv'));
+      for (const one of bytes) dataTransfer.items.add(new File([new Uint8Array(one)], 'mine.csv'));
       for (const type of ['dragenter', 'dragover', 'drop']) {
         const event = new DragEvent(type, { dataTransfer, bubbles: true, cancelable: true });
         document.body.dispatchEvent(event);
       }
-    }, [...readFileSync(path)]);
+    }, paths.map((path) => [...readFileSync(path)]));
   }
   takeChoiceBack() { return this.press('lbContaining', 'Escape'); }
 }

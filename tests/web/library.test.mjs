@@ -2,6 +2,8 @@
 // program goes on.
 import assert from 'node:assert/strict';
 import { writeFileSync } from 'node:fs';
+import { tmpdir } from 'node:os';
+import { basename } from 'node:path';
 import { eventually, testIn, testInEach } from './hand.mjs';
 import { addressOf, file, fourScales, html, latin, library, line, pageOn } from './page.mjs';
 
@@ -85,7 +87,34 @@ testInEach('a dropped library opens anew', async (hand, t) => {
   }
 });
 
-testIn('Chromium', 'of two libraries dropped at once the last one stays', async (hand) => {
+testIn('Chromium', 'what cannot be taken leaves the library that is in use, and says so', async (hand) => {
+  await hand.open(pageOn(fourScales));
+  const unreadable = tmpdir();
+  const mine = file('mine.csv', library(triad));
+  const inUse = '\nLoad the page again to go back to its own library.';
+  const expectReport = (start, end) => eventually(async () => {
+    const text = await hand.page.run(report);
+    assert.ok(text.startsWith(start) && text.endsWith(end), text);
+    assert.equal(text.includes(inUse), end === inUse);
+    await hand.look();
+  });
+  const name = basename(unreadable);
+  await hand.drop(unreadable);
+  await expectReport(`${name} cannot be read.`, '.');
+  await hand.drop(mine);
+  await expectReport(basename(mine), inUse);
+  await hand.tick(0);
+  for (const [files, why] of [[[unreadable], `${name} cannot be read.\n`],
+    [[file('other.csv', fourScales), mine], 'One library at a time: drop its file alone.\n']]) {
+    await hand.drop(...files);
+    await expectReport(why, inUse);
+    await expectRows(hand, 'Bank|Triad|C');
+  }
+  await hand.drop(mine);
+  await expectReport(basename(mine), inUse);
+});
+
+testIn('Chromium', 'of two libraries dropped in a row the last one stays', async (hand) => {
   await hand.open(pageOn(fourScales));
   await hand.page.run((texts) => {
     const title = document.getElementById('report-title');
