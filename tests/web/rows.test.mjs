@@ -59,6 +59,12 @@ testInEach('the keyboard alone does all, and the mouse lets go of rows', async (
 });
 
 testIn('Chromium', 'a finger chooses a row and lets it go', async (hand) => {
+  // As in a browser whose click does not tell what made it.
+  await hand.page.puppet.evaluateOnNewDocument(() => {
+    const whole = Object.getOwnPropertyDescriptor(PointerEvent.prototype, 'pointerType').get;
+    Object.defineProperty(PointerEvent.prototype, 'pointerType',
+      { get() { return this.type === 'click' ? undefined : whole.call(this); } });
+  });
   await hand.page.puppet.setViewport({ width: 390, height: 844, hasTouch: true, isMobile: true });
   hand.page.click = (x, y) => hand.page.puppet.touchscreen.tap(x, y);
   await hand.open(pageOn(fourScales));
@@ -67,6 +73,10 @@ testIn('Chromium', 'a finger chooses a row and lets it go', async (hand) => {
   await expectRow(hand, 2, 'a tap');
   await hand.chooseRow(2);
   await expectRow(hand, -1, 'a tap on the chosen row');
+  await hand.chooseRow(1);
+  await expectRow(hand, 1, 'a tap');
+  await hand.page.run(() => document.querySelector('[aria-selected=true]').click());
+  await expectRow(hand, 1, "a screen reader's click on the chosen row");
 });
 
 testIn('Chromium', 'rows follow the pointer', async (hand) => {

@@ -84,8 +84,8 @@ mergeInto(LibraryManager.library, {
   page_Later: function (delay, work) { setTimeout(function () { call(_page_Due, work); }, delay); },
 
   // Of the event: its place in the list of keys, or -1 for another or one with a modifier; the row
-  // that it points at, or -1; whether a click is of a mouse or a finger; whether it takes the choice of
-  // its row back.
+  // that it points at, or -1; whether a click is of a mouse or a finger; whether a press is of a finger,
+  // which a click does not tell in every browser; whether Ctrl is held, or the platform's own like it.
   page_Key__deps: ['$page', '$text'],
   page_Key: function (keys) {
     const e = page.event;
@@ -99,10 +99,10 @@ mergeInto(LibraryManager.library, {
   },
   page_IsByHand__deps: ['$page'],
   page_IsByHand: function () { return page.event.detail > 0; },
-  page_TakesBack__deps: ['$page'],
-  page_TakesBack: function () {
-    return page.event.ctrlKey || page.event.metaKey || page.event.pointerType === 'touch';
-  },
+  page_IsTouch__deps: ['$page'],
+  page_IsTouch: function () { return page.event.pointerType === 'touch'; },
+  page_HasCtrl__deps: ['$page'],
+  page_HasCtrl: function () { return page.event.ctrlKey || page.event.metaKey; },
   page_Take__deps: ['$page'],
   page_Take: function () { page.event.preventDefault(); },
   // Lets a text of the list that is cut at its cell's end be read whole by pointing at it.

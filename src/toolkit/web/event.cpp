@@ -12,7 +12,9 @@ std::int64_t Row() { return page_Row(); }
 
 bool IsByHand() { return page_IsByHand(); }
 
-bool TakesBack() { return page_TakesBack(); }
+bool IsTouch() { return page_IsTouch(); }
+
+bool HasCtrl() { return page_HasCtrl(); }
 
 void Take() { page_Take(); }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 
 // The event of the page that is being handled.
 namespace toolkit::web::event {
@@ -14,9 +13,10 @@ Key PressedKey();
 std::int64_t Row();
 /// Whether a click is of a mouse or a finger.
 bool IsByHand();
-/// Whether a click on a chosen row takes the choice back: with Ctrl or the platform's own command
-/// key, and always with a finger, for which there is no such key.
-bool TakesBack();
+/// Whether a press, a pointerdown, is of a finger.
+bool IsTouch();
+/// Whether the Ctrl key is held, or the platform's own command key.
+bool HasCtrl();
 /// Keeps the browser from doing what it would have done with the event.
 void Take();
 /// Shows the whole text of the cell that is pointed at, where the cell cuts it.

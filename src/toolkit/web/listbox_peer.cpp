@@ -52,7 +52,10 @@ ListboxPeer::ListboxPeer(const Ref<Listbox>& list, const Element& content)
       }) {
   Outer().Attribute("role", "grid");
   Outer().Attribute("tabindex", "0");
-  Outer().On("mousedown", [this] { pressed_ = event::Row(); });
+  Outer().On("pointerdown", [this] {
+    pressed_ = event::Row();
+    touched_ = event::IsTouch();
+  });
   Outer().On("click", [this] { Clicked(); });
   Outer().On("keydown", [this] { KeyPressed(); });
   Outer().On("mousemove", &event::TellCut);
@@ -96,9 +99,11 @@ void ListboxPeer::ShareColumns() {
 void ListboxPeer::Clicked() {
   // A press that ends elsewhere than it began is no click. A screen reader clicks without one.
   const std::int64_t row = event::Row();
-  if (event::IsByHand() && row != pressed_) return;
-  const bool back = row == list_->ListIndex() && event::TakesBack();
-  list_->Select(back ? -1 : row);
+  const bool by_hand = event::IsByHand();
+  if (by_hand && row != pressed_) return;
+  // For a finger there is no key to hold.
+  const bool takes_back = event::HasCtrl() || (by_hand && touched_);
+  list_->Select(takes_back && row == list_->ListIndex() ? -1 : row);
 }
 
 void ListboxPeer::KeyPressed() {

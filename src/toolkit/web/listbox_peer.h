@@ -26,6 +26,7 @@ class ListboxPeer final : public ControlPeer {
   RowView rows_;
   bool rows_changed_ = false;
   std::int64_t pressed_ = -1;  ///< the row, or -1, where the last press began
+  bool touched_ = false;       ///< that press is of a finger
 };
 
 }  // namespace toolkit::web
