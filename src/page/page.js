@@ -3,7 +3,7 @@
 (function () {
   'use strict';
   const at = id => document.getElementById(id);
-  const code = decoded(at('code').textContent);
+  let code;
   let run = new AbortController();
   let started = Promise.resolve();
 
@@ -44,8 +44,7 @@
         };
     const launch = more => new Promise((done, failed) => {
       const instantiateWasm = (imports, begin) => {
-        WebAssembly.instantiate(code, guarded(imports))
-            .then(({ instance }) => begin(instance)).catch(failed);
+        WebAssembly.instantiate(code, guarded(imports)).then(begin).catch(failed);
         return {};
       };
       OrrelPitchsieve({ instantiateWasm, library, signal, fail, end, quit, ...more }).then(done, failed);
@@ -82,7 +81,7 @@
     at('ended').hidden = false;
   }
 
-  async function open([file, ...others]) {
+  async function take([file, ...others]) {
     if (others.length > 0) return refuse('One library at a time: drop its file alone.');
     let bytes;
     try {
@@ -96,7 +95,7 @@
   // One after the other: the last one stays, and each report is of one file.
   function queue(list) {
     const files = [...list];
-    if (files.length > 0) started = started.then(() => open(files));
+    if (files.length > 0) started = started.then(() => take(files));
   }
 
   // To ask for the width has the page laid out, so a page that is wide enough is not asked.
@@ -106,29 +105,31 @@
     root.style.setProperty('--page', wide ? 10000 : root.offsetWidth);
   }
 
-  // A browser may know WebAssembly and yet let no page run it that has a policy like ours.
-  function runsCode() {
+  // A browser may not know WebAssembly, or know too little of it for the program, or let no page run it
+  // that has a policy like ours.
+  async function open() {
+    document.documentElement.className = 'runs';
     try {
-      return !!new WebAssembly.Module(Uint8Array.of(0, 97, 115, 109, 1, 0, 0, 0));
+      code = await WebAssembly.compile(decoded(at('code').textContent));
     } catch (failure) {
-      return false;
+      console.error(failure);
+      document.documentElement.className = '';
+      return;
     }
+    at('offer').hidden = false;
+    addEventListener('resize', fit);
+    at('own').addEventListener('change', e => {
+      queue(e.target.files);
+      e.target.value = '';  // or the same file, once it is mended, would be no change
+    });
+    addEventListener('dragover', e => e.preventDefault());
+    addEventListener('drop', e => { e.preventDefault(); queue(e.dataTransfer.files); });
+    fit();
+
+    // In a script element, a few texts cannot stand as they are: a backslash stands in them.
+    const library = at('library');
+    started = start(library && new TextEncoder().encode(
+        library.textContent.replace(/<\\(\\*(?:!--|\/?script))/gi, '<$1')), '');
   }
-
-  if (!runsCode()) return;
-  document.documentElement.className = 'runs';
-  at('offer').hidden = false;
-  addEventListener('resize', fit);
-  at('own').addEventListener('change', e => {
-    queue(e.target.files);
-    e.target.value = '';  // or the same file, once it is mended, would be no change
-  });
-  addEventListener('dragover', e => e.preventDefault());
-  addEventListener('drop', e => { e.preventDefault(); queue(e.dataTransfer.files); });
-  fit();
-
-  // In a script element, a few texts cannot stand as they are: a backslash stands in them.
-  const library = at('library');
-  started = start(library && new TextEncoder().encode(
-      library.textContent.replace(/<\\(\\*(?:!--|\/?script))/gi, '<$1')), '');
+  open();
 })();

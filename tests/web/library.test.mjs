@@ -180,6 +180,13 @@ testIn('Chromium', 'a browser that cannot run the program gets a sentence', asyn
   });
   await hand.page.open(addressOf(html.replace(" 'wasm-unsafe-eval'", '')));  // as an older one has it
   await said();
+  const { identifier } = await puppet.evaluateOnNewDocument(() => {
+    const refuse = async () => { throw new WebAssembly.CompileError('no exceptions'); };
+    Object.assign(WebAssembly, { compile: refuse, instantiate: refuse });
+  });
+  await hand.page.open(addressOf(html));
+  await said();
+  await puppet.removeScriptToEvaluateOnNewDocument(identifier);
   await puppet.evaluateOnNewDocument(() => { delete globalThis.WebAssembly; });
   await hand.page.open(addressOf(html));
   await said();
