@@ -2,7 +2,7 @@
 import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
 import { eventually, testIn } from './hand.mjs';
-import { addressOf, fourScales, html, pageOn } from './page.mjs';
+import { addressOf, file, fourScales, html, library, pageOn } from './page.mjs';
 
 const axe = readFileSync(new URL('node_modules/axe-core/axe.min.js', import.meta.url), 'utf8');
 const violations = `${axe}; axe.run().then(({ violations }) => violations.map(
@@ -16,7 +16,25 @@ const states = {
     await hand.chooseRow(1);
     await eventually(async () => assert.notDeepEqual((await hand.look()).stars, []));
   },
+  'with a report of faults': async (hand) => {
+    await hand.drop(file('mine.csv', library(...Array(40).fill('Bank,short'))));
+    await eventually(async () => {
+      assert.ok(await hand.page.run(() => document.querySelectorAll('#report li').length) > 5);
+      await hand.look();
+    });
+  },
   'on a phone': (hand) => hand.page.puppet.setViewport({ width: 390, height: 844, hasTouch: true }),
+  'when it has ended': async (hand) => {
+    await hand.page.run(() => {
+      const whole = Element.prototype.setAttribute;
+      Element.prototype.setAttribute = () => {
+        Element.prototype.setAttribute = whole;
+        throw new Error('provoked');
+      };
+    });
+    await hand.tick(0);
+    await hand.page.puppet.waitForSelector('#ended', { visible: true });
+  },
   'without WebAssembly': async (hand) => {
     await hand.page.puppet.evaluateOnNewDocument(() => { delete globalThis.WebAssembly; });
     await hand.page.puppet.reload();

@@ -112,7 +112,15 @@ testIn('Chromium', 'of 600,000 rows only those exist that are seen', async (hand
   const scales = Array.from({ length: 50000 }, (_, i) =>
     line(`S${i}`, (i % 4095 + 1).toString(2).padStart(12, '0')));
   await hand.open(pageOn(library(...scales)));
+  await hand.page.run(() => {
+    window.counted = [];
+    new MutationObserver((changes) => counted.push(...changes.map(({ target }) => target.id)))
+      .observe(document.getElementById('lbContaining').parentNode,
+        { subtree: true, attributeFilter: ['aria-rowcount'] });
+  });
   await hand.tickOther();
+  assert.deepEqual(await hand.page.run(() => counted), ['lbContaining'],
+    'one refresh for an answer');
   await hand.press('lbContaining', 'End');
   await expectRow(hand, 599999, 'End');
   const list = async () => (await hand.look()).lbContaining;

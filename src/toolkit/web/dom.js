@@ -1,5 +1,6 @@
 // What the toolkit does to the page: operations on its elements, each known by a number, and on the
-// event that is being handled. It knows nothing of controls.
+// event that is being handled. Of a list it knows how its rows and cells are marked, of a label element
+// that it has a control; nothing else of controls.
 mergeInto(LibraryManager.library, {
   $page: '{ elements: new Map(), last: 0, event: null }',
   $decoder: "new TextDecoder('utf-8', { ignoreBOM: true })",
