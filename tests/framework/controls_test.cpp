@@ -63,6 +63,16 @@ TEST_F(Controls, TellThePeerOfARealChangeAlone) {
                                             "list.Look", "list.Look", "list.Rows", "list.Rows"));
 }
 
+TEST_F(Controls, ShareTheWidthAsFarAsTheLastColumnThatHasOne) {
+  list_->ColumnCount(4);
+  list_->ColumnWidths("35%,0%,15.5%");
+  EXPECT_THAT(list_->_ColumnShares(), ElementsAre(350, 0, 155));
+  list_->ColumnWidths("-1,1e300,0,1,1");
+  EXPECT_THAT(list_->_ColumnShares(), ElementsAre(0, 1000, 0, 10)) << "as many as it has";
+  list_->ColumnWidths("");
+  EXPECT_THAT(list_->_ColumnShares(), IsEmpty());
+}
+
 TEST_F(Controls, RaiseEventsForTheUserAndForAChosenRowThatGoes) {
   Show();
   list_->AddRow({"a"});

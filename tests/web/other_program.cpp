@@ -3,6 +3,7 @@
 #include "framework/application/runtime.h"
 #include "framework/controls/check_box.h"
 #include "framework/controls/label.h"
+#include "framework/controls/listbox.h"
 #include "framework/controls/window.h"
 #include "toolkit/web/web_toolkit.h"
 
@@ -14,11 +15,15 @@ struct OtherWindow final : Window {
   void Layout() override {
     Title("Another Program");
     Width(300);
-    Height(100);
+    Height(130);
     Visible(true);
   }
   void CreateControls() override {
     heard = Make<Label>("heard", 10);
+    const auto list = Make<Listbox>("list", 100);
+    list->ColumnCount(4);
+    list->ColumnWidths("35%,0%,15%");
+    list->AddRow({"first", "unseen", "third", "unseen too"});
     AnswerBy<&OtherWindow::Fail>(Make<CheckBox>("fail", 40));
     AnswerBy<&OtherWindow::Quit>(Make<CheckBox>("quit", 70));
   }

@@ -28,6 +28,14 @@ for (const browser of Object.keys(start)) {
   });
 }
 
+testIn('Chromium', 'a column without a width is not seen, also between others', async (hand) => {
+  await open(hand);
+  const cells = () => [...document.querySelectorAll('#list [role=gridcell]')].map((cell) =>
+    [cell.textContent, Math.round(cell.getBoundingClientRect().width)]);
+  await eventually(async () =>
+    assert.deepEqual(await hand.page.run(cells), [['first', 69], ['third', 129]]));
+});
+
 testIn('Chromium', 'a program is told of each change of the appearance', async (hand) => {
   await open(hand);
   const features = [];

@@ -4,6 +4,7 @@
 
 #include "framework/events/run_loop.h"
 #include "framework/values/failures.h"
+#include "framework/values/text.h"
 
 namespace framework {
 
@@ -48,6 +49,17 @@ void Listbox::ColumnCount(std::int64_t value) {
   }
   column_count_ = value;
   _Changed(Change::Look);
+}
+
+std::vector<int> Listbox::_ColumnShares() const {
+  std::vector<int> shares;
+  const auto widths = Split(ColumnWidths(), ",");
+  for (const String& width : widths._Items()) {
+    shares.push_back(static_cast<int>(std::clamp(Val(width) * 10, 0.0, 1000.0)));
+  }
+  shares.resize(static_cast<std::size_t>(column_count_));
+  while (!shares.empty() && shares.back() == 0) shares.pop_back();
+  return shares;
 }
 
 void Listbox::AddRow(const Array<String>& values) {

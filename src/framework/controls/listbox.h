@@ -27,6 +27,9 @@ class Listbox : public RectControl {
   void ColumnCount(std::int64_t value);
   /// The widths of the columns, joined by commas, as shares of the list's: "35%,65%".
   Property<String> ColumnWidths{*this, Change::Look};
+  /// The same in parts of 1000, column by column as far as the last one that has a width. A column
+  /// with 0, one that ColumnWidths leaves out too, is not seen.
+  std::vector<int> _ColumnShares() const;
   Property<std::int64_t> DefaultRowHeight{*this, Change::Look};  ///< -1: the platform's
   Property<std::int64_t> GridLinesHorizontal{*this, Change::Look};
   Property<std::int64_t> GridLinesVertical{*this, Change::Look};

@@ -3,29 +3,11 @@
 #include <QItemSelectionModel>
 #include <QScopedValueRollback>
 
-#include "framework/values/text.h"
 #include "toolkit/qt/guarded.h"
 
 namespace toolkit::qt {
 
 using namespace framework;
-
-namespace {
-
-/// The widths as the view wants them, as far as the last column that has one; a column that the
-/// list gives no width has none.
-std::vector<int> Shares(const Listbox& list) {
-  std::vector<int> shares;
-  const auto widths = Split(list.ColumnWidths(), ",");
-  for (const String& width : widths._Items()) {
-    shares.push_back(static_cast<int>(Val(width) * 10));
-  }
-  shares.resize(static_cast<std::size_t>(list.ColumnCount()));
-  while (!shares.empty() && shares.back() == 0) shares.pop_back();
-  return shares;
-}
-
-}  // namespace
 
 ListboxPeer::ListboxPeer(const Ref<Listbox>& list, QWidget* content)
     : ControlPeer(list, new ListView(content)),
@@ -46,7 +28,7 @@ void ListboxPeer::Show(Change what) {
 }
 
 void ListboxPeer::ShareColumns() {
-  const std::vector<int> shares = Shares(*list_);
+  const std::vector<int> shares = list_->_ColumnShares();
   model_->SetColumns(static_cast<int>(shares.size()));
   widget_->SetColumnShares(shares);
   if (!refresh_pending_) ShowSelection();

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "framework/values/text.h"
 #include "toolkit/web/event.h"
 
 namespace toolkit::web {
@@ -48,7 +47,7 @@ ListboxPeer::ListboxPeer(const Ref<Listbox>& list, const Element& content)
       rows_(Outer(), Id(), [this](std::int64_t row, int column) {
         // No column shows more; laying out a megabyte would take seconds.
         constexpr std::size_t kMost = 1000;
-        return list_->Cell(row, column).View().substr(0, kMost);
+        return list_->Cell(row, columns_[static_cast<std::size_t>(column)]).View().substr(0, kMost);
       }) {
   Outer().Attribute("role", "grid");
   Outer().Attribute("tabindex", "0");
@@ -76,23 +75,19 @@ bool ListboxPeer::Refresh() {
 }
 
 void ListboxPeer::ShareColumns() {
-  // Shares of the width inside the frame. The last column that shows ends at the scroll bar.
-  const auto widths = Split(list_->ColumnWidths(), ",");
-  const auto columns = std::min(list_->ColumnCount(), widths.LastIndex() + 1);
+  // Of the width inside the frame. The last column ends at the scroll bar.
+  const std::vector<int> shares = list_->_ColumnShares();
   std::string tracks;
-  int shown = 0;
-  for (std::int64_t i = 0; i < columns; ++i) {
-    const double share = Val(widths[i]) / 100;
-    if (share <= 0) break;
-    const auto width = static_cast<std::int64_t>(share * static_cast<double>(list_->Width() - 2));
-    if (shown > 0) tracks += " ";
-    tracks += std::to_string(width) + "px";
-    ++shown;
+  columns_.clear();
+  for (std::size_t column = 0; column < shares.size(); ++column) {
+    if (shares[column] == 0) continue;
+    columns_.push_back(static_cast<int>(column));
+    const std::int64_t width = shares[column] * (list_->Width() - 2) / 1000;
+    tracks += column + 1 < shares.size() ? std::to_string(width) + "px " : "minmax(0,1fr)";
   }
-  if (shown > 0) tracks.replace(tracks.rfind(' ') + 1, tracks.npos, "minmax(0,1fr)");
   Outer().Style("--columns", tracks);
-  Outer().Attribute("aria-colcount", shown);
-  rows_.SetColumns(shown);
+  Outer().Attribute("aria-colcount", static_cast<std::int64_t>(columns_.size()));
+  rows_.SetColumns(static_cast<int>(columns_.size()));
   rows_changed_ = true;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "framework/controls/listbox.h"
 #include "toolkit/web/control_peer.h"
 #include "toolkit/web/row_view.h"
@@ -23,6 +25,7 @@ class ListboxPeer final : public ControlPeer {
   void KeyPressed();
 
   framework::Ref<framework::Listbox> list_;
+  std::vector<int> columns_;  ///< those of the list's that are seen
   RowView rows_;
   bool rows_changed_ = false;
   std::int64_t pressed_ = -1;  ///< the row, or -1, where the last press began
