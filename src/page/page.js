@@ -3,7 +3,8 @@
 (function () {
   'use strict';
   const at = id => document.getElementById(id);
-  let code;
+  const root = document.documentElement;
+  const code = compiled();
   let run = new AbortController();
   let started = Promise.resolve();
 
@@ -44,7 +45,7 @@
         };
     const launch = more => new Promise((done, failed) => {
       const instantiateWasm = (imports, begin) => {
-        WebAssembly.instantiate(code, guarded(imports)).then(begin).catch(failed);
+        code.then(ready => WebAssembly.instantiate(ready, guarded(imports))).then(begin).catch(failed);
         return {};
       };
       OrrelPitchsieve({ instantiateWasm, library, signal, fail, end, quit, ...more }).then(done, failed);
@@ -100,36 +101,34 @@
 
   // To ask for the width has the page laid out, so a page that is wide enough is not asked.
   function fit() {
-    const root = document.documentElement;
     const wide = matchMedia('(min-width: 700px)').matches;
     root.style.setProperty('--page', wide ? 10000 : root.offsetWidth);
   }
 
   // A browser may not know WebAssembly, or know too little of it for the program, or let no page run it
-  // that has a policy like ours.
-  async function open() {
-    document.documentElement.className = 'runs';
+  // that has a policy like ours: then the sentence about it stays alone.
+  async function compiled() {
+    root.className = 'runs';
     try {
-      code = await WebAssembly.compile(decoded(at('code').textContent));
+      return await WebAssembly.compile(decoded(at('code').textContent));
     } catch (failure) {
-      console.error(failure);
-      document.documentElement.className = '';
-      return;
+      root.className = '';
+      throw failure;
     }
-    at('offer').hidden = false;
-    addEventListener('resize', fit);
-    at('own').addEventListener('change', e => {
-      queue(e.target.files);
-      e.target.value = '';  // or the same file, once it is mended, would be no change
-    });
-    addEventListener('dragover', e => e.preventDefault());
-    addEventListener('drop', e => { e.preventDefault(); queue(e.dataTransfer.files); });
-    fit();
-
-    // In a script element, a few texts cannot stand as they are: a backslash stands in them.
-    const library = at('library');
-    started = start(library && new TextEncoder().encode(
-        library.textContent.replace(/<\\(\\*(?:!--|\/?script))/gi, '<$1')), '');
   }
-  open();
+
+  at('offer').hidden = false;
+  addEventListener('resize', fit);
+  at('own').addEventListener('change', e => {
+    queue(e.target.files);
+    e.target.value = '';  // or the same file, once it is mended, would be no change
+  });
+  addEventListener('dragover', e => e.preventDefault());
+  addEventListener('drop', e => { e.preventDefault(); queue(e.dataTransfer.files); });
+  fit();
+
+  // In a script element, a few texts cannot stand as they are: a backslash stands in them.
+  const library = at('library');
+  started = start(library && new TextEncoder().encode(
+      library.textContent.replace(/<\\(\\*(?:!--|\/?script))/gi, '<$1')), '');
 })();
