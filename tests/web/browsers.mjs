@@ -1,6 +1,6 @@
-// The browsers, each behind the same operations: open(url) shows a page and reload() loads it again, run(f, values...) runs a
-// function in it, click(x, y) and key(name) are the user's hands. Each message of the page's is read
-// and closed, and hear() has them all since told was last emptied.
+// The browsers, each behind the same operations: open(url) shows a page and reload() loads it again,
+// run(f, values...) runs a function in it, click(x, y) and key(name) are the user's hands. Each
+// message of the page's is read and closed, and hear() has them all since told was last emptied.
 import { mkdtemp, rm } from 'node:fs/promises';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
