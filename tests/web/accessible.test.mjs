@@ -75,6 +75,9 @@ testIn('Chromium', 'names, rows with their number, and stars with their boxes ar
     const starred = notes.flatMap((text, i) => (text.startsWith('In the chosen scale. ') ? [i] : []));
     assert.deepEqual(starred, [0, 2, 4, 5, 7, 9, 11]);
     for (const text of notes) assert.match(text, /Select which pitch classes must appear/);
+    for (const { name, description } of [...boxes, ...await spoken('combobox'), ...await spoken('grid')]) {
+      assert.ok(description, `what ${name} is for`);
+    }
     assert.deepEqual(await namesOf('combobox'), ['Root Note']);
     assert.deepEqual(await namesOf('grid'), ['Exact Match', 'Containing All Notes']);
     assert.deepEqual(await namesOf('row'), ['Bank Major C', 'Bank Whole Tone C', 'Bank Triad C']);
