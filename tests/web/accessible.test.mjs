@@ -79,6 +79,8 @@ testIn('Chromium', 'names, rows with their number, and stars with their boxes ar
       assert.ok(description, `what ${name} is for`);
     }
     assert.deepEqual(await namesOf('combobox'), ['Root Note']);
+    assert.equal(await hand.page.run(() => document.getElementById('tally').textContent),
+      'Exact Match 0, Containing All Notes 3');
     assert.deepEqual(await namesOf('grid'), ['Exact Match', 'Containing All Notes']);
     assert.deepEqual(await namesOf('row'), ['Bank Major C', 'Bank Whole Tone C', 'Bank Triad C']);
   });
