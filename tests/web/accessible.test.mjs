@@ -78,6 +78,7 @@ testIn('Chromium', 'names, rows with their number, and stars with their boxes ar
     for (const { name, description } of [...boxes, ...await spoken('combobox'), ...await spoken('grid')]) {
       assert.ok(description, `what ${name} is for`);
     }
+    assert.deepEqual(await namesOf('image'), Array(7).fill('In the chosen scale.'));
     assert.deepEqual(await namesOf('combobox'), ['Root Note']);
     assert.equal(await hand.page.run(() => document.getElementById('tally').textContent),
       'Exact Match 0, Containing All Notes 3');

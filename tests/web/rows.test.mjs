@@ -44,9 +44,16 @@ testInEach('the keyboard alone does all, and the mouse lets go of rows', async (
     await expectRow(hand, expected, key);
   }
   await hand.chooseRow(20);
+  const scrolled = () => hand.page.run(() => document.getElementById('lbContaining').scrollTop);
   await expectRow(hand, 20, 'a click');
-  await hand.chooseRow(20, 'lbContaining', { ctrl: true });
+  const before = await scrolled();
+  await hand.chooseRow(19);
+  await expectRow(hand, 19, 'a click');
+  assert.equal(await scrolled(), before, 'a row in sight stays where it is');
+  await hand.chooseRow(19, 'lbContaining', { ctrl: true });
   await expectRow(hand, -1, 'a click with the Ctrl key');
+  await hand.chooseRoot(4);
+  await eventually(async () => assert.equal(await scrolled(), 0, 'another answer begins at its top'));
   await hand.tickOther();
   await hand.chooseRow(2);
   await expectRow(hand, 2, 'a click');

@@ -20,6 +20,11 @@ RowView::RowView(Element& list, std::string list_id, CellText text)
   body_.Attribute("role", "rowgroup");
 }
 
+void RowView::SetColumns(int columns) {
+  if (columns != columns_) made_.clear();  // a row is made with its cells
+  columns_ = columns;
+}
+
 void RowView::Reset(std::int64_t rows, std::int64_t chosen) {
   // To measure has the page laid out on the spot, which a list without rows can do without.
   if (rows > 0) {

@@ -21,7 +21,7 @@ class RowView {
   RowView(Element& list, std::string list_id, CellText text);
 
   /// The columns that are seen; it shows with the next Reset.
-  void SetColumns(int columns) { columns_ = columns; }
+  void SetColumns(int columns);
   /// Takes over that many new rows, from the top, with the chosen one, or -1, in view.
   void Reset(std::int64_t rows, std::int64_t chosen);
   /// Marks the chosen row, and brings it into view.
