@@ -1,6 +1,6 @@
 // A program on the page's toolkit that does what the one that ships never does: it shows what it
-// hears of the system's appearance, changes its controls while it runs, fails with what is no failure
-// of the framework's, and quits.
+// hears of the system's appearance, changes its controls while it runs, fails with what is no
+// failure of the framework's, and quits.
 #include "framework/application/runtime.h"
 #include "framework/controls/check_box.h"
 #include "framework/controls/label.h"
