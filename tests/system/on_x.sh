@@ -72,7 +72,7 @@ click() { xdotool mousemove --window "$window" "$1" $(($2 + above)) click 1; }
 # Pixels of a colour in a rectangle of the content area: pixels COLOUR WIDTH HEIGHT X Y
 pixels() {
   import -window "$window" -crop "$2x$3+$4+$(($5 + above))" "$work/part.png"
-  convert "$work/part.png" -fill black +opaque "$1" -fill white -opaque "$1" -format '%[fx:round(mean*w*h)]' info:
+  convert "$work/part.png" -alpha off -transparent "$1" -alpha extract -format '%[fx:round((1-mean)*w*h)]' info:
 }
 # Waits until there are at least so many such pixels, or none: until_there COUNT COLOUR W H X Y
 until_there() { for _ in $(seq 100); do [ "$(pixels "${@:2}")" -ge "$1" ] && return; sleep 0.05; done; fail "not there: $*"; }

@@ -36,7 +36,7 @@ click 300 218
 until_there 8 "$green" 15 20 15 188
 chosen='60 6 280 215'
 until_there 200 '#FFCC00' $chosen
-until_there 20 '#000000' 120 14 210 211        # its letters
+until_there 5 '#000000' 370 14 210 211         # its letters' middles
 
 tell color-scheme 2
 until_there 2000 "$light" $ground
@@ -51,13 +51,13 @@ until_there 2000 "$dark" $ground
 tell accent-color 0.8 0.2 0.6
 until_there 200 '#CC3399' $chosen
 until_there 8 "$green" 15 20 15 188
-tell color-scheme dark                         # what makes no sense is no preference
-tell accent-color 2 -1 7
+tell accent-color 2 -1 7                       # what makes no sense is no preference
 until_there 200 '#308CC6' $chosen
 tell accent-color 0.8 0.2 0.6
 until_there 200 '#CC3399' $chosen
-tell accent-color 5
+tell color-scheme dark
 until_there 2000 "$light" $ground
+tell accent-color 5
 until_there 200 '#308CC6' $chosen
 until_there 8 "$green" 15 20 15 188
 xdotool key ctrl+q
