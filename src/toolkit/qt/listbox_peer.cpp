@@ -1,7 +1,6 @@
 #include "toolkit/qt/listbox_peer.h"
 
 #include <QItemSelectionModel>
-#include <QScopedValueRollback>
 
 #include "toolkit/qt/guarded.h"
 
@@ -49,14 +48,14 @@ void ListboxPeer::Refresh() {
 }
 
 void ListboxPeer::ShowSelection() {
-  const QScopedValueRollback<bool> showing(showing_selection_, true);
   const auto row = static_cast<int>(list_->ListIndex());
   if (row < 0) return widget_->clearSelection();
   widget_->selectRow(row);
 }
 
 void ListboxPeer::TakeSelection() {
-  if (showing_selection_ || refresh_pending_) return;
+  // What the list has itself asked to be shown is chosen already, and chooses nothing anew.
+  if (refresh_pending_) return;
   const QModelIndexList rows = widget_->selectionModel()->selectedRows();
   list_->Select(rows.isEmpty() ? -1 : rows.front().row());
 }

@@ -29,7 +29,6 @@ class ListboxPeer final : public ControlPeer {
   ListView* widget_;
   ListModel* model_;
   bool refresh_pending_ = false;
-  bool showing_selection_ = false;
 };
 
 }  // namespace toolkit::qt
