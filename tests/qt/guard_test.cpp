@@ -14,7 +14,7 @@ namespace {
 
 using namespace framework;
 using namespace support;
-using testing::ElementsAre;
+using testing::Contains;
 using testing::HasSubstr;
 
 /// The box that the user is shown; null while there is none.
@@ -46,7 +46,10 @@ TEST_F(Guarded, TextsAreToldOneAfterTheOtherWhateverAskedForThem) {
   EXPECT_EQ(Box(), nullptr);
 }
 
-TEST_F(Guarded, FailureThatEndsTheProgramIsReadFirst) {
+class WithFailures : public OnScreen,
+                     public testing::WithParamInterface<std::vector<const char*>> {};
+
+TEST_P(WithFailures, WhatEndsTheProgramIsReadFirst) {
   folder_.Write(library::kFileName, kFourScales);
   std::vector<std::string> told;
   QTimer reader;
@@ -58,12 +61,16 @@ TEST_F(Guarded, FailureThatEndsTheProgramIsReadFirst) {
   toolkit_.before_the_window = [&reader] {
     reader.start(20);
     // Before the loop, and so before its end, has begun.
-    _RunEvent([] { throw std::runtime_error("odd"); });
-    _RunEvent([] { throw std::runtime_error("odder"); });
+    for (const char* const text : GetParam()) _RunEvent([text] { throw std::runtime_error(text); });
   };
   EXPECT_EQ(shell::main(), 1);
-  EXPECT_THAT(told, ElementsAre("std::runtime_error: odder", "std::runtime_error: odd"));
+  EXPECT_EQ(told.size(), GetParam().size());
+  for (const char* const text : GetParam()) EXPECT_THAT(told, Contains(HasSubstr(text)));
 }
+
+using Texts = std::vector<const char*>;
+INSTANTIATE_TEST_SUITE_P(Guarded, WithFailures,
+                         testing::Values(Texts{"odd"}, Texts{"odd", "even"}));
 
 /// From now on each operation on the user interface fails, as if it came from another thread; or it
 /// does not any more.
@@ -97,11 +104,12 @@ TEST_F(Guarded, NothingIsThrownThroughTheToolkit) {
   }
 }
 
-/// Refuses a message box memory as it is shown.
+/// Refuses one message box memory as it is shown.
 struct NoBox : QObject {
   bool eventFilter(QObject* object, QEvent* event) override {
-    const bool shown = event->type() == QEvent::Polish && qobject_cast<QMessageBox*>(object);
-    return shown ? throw std::bad_alloc() : false;
+    if (event->type() != QEvent::Polish || !qobject_cast<QMessageBox*>(object)) return false;
+    qApp->removeEventFilter(this);
+    throw std::bad_alloc();
   }
 } no_box;
 void RefuseABox(bool refuse) {
@@ -129,6 +137,12 @@ TEST_F(Guarded, WithoutMemoryForABoxTheLineIsAll) {
   }
   toolkit_.ReportFailure("a failure");
   EXPECT_EQ(Read(), "a failure") << "which is told again";
+  for (const char* const text : {"one", "two", "three"}) toolkit_.ReportFailure(text);
+  ASSERT_TRUE(QTest::qWaitFor([] { return Box() != nullptr; }));
+  RefuseABox(true);
+  EXPECT_EQ(Read(), "one");
+  QApplication::processEvents();
+  EXPECT_EQ(Box(), nullptr) << "what waits behind a box that is refused is given up with it";
 }
 
 }  // namespace

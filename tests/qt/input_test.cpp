@@ -117,6 +117,10 @@ TEST_F(Input, RootMenuShowsAllItsRowsInAnyStyle) {
   popup.showPopup();
   const QRect last = popup.view()->visualRect(popup.model()->index(11, 0));
   EXPECT_TRUE(popup.view()->viewport()->rect().contains(last));
+  popup.hidePopup();
+  hand_->ChooseRoot(2);
+  window_->pmRoot()->InitialValue("do\rre\rmi");
+  EXPECT_EQ(popup.currentText(), "mi") << "the third, as before";
 }
 
 TEST_F(Input, MenusAreHiddenAndDisabledAsTheirItemsAre) {

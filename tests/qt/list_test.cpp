@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "qt/qt_hand.h"
+#include "toolkit/qt/text.h"
 
 // How a list shows its rows and columns.
 
@@ -27,6 +28,8 @@ TEST_F(Lists, ListsHaveThreeColumnsAndAreRefreshedOnce) {
   EXPECT_GT(List().rowAt(0), 0);
   hand_->Tick(0);
   EXPECT_EQ(List().verticalScrollBar()->value(), 0);
+  window_->lbContaining()->Select(1);
+  hand_->ExpectMirrored(*window_);
   ASSERT_GT(List().verticalScrollBar()->maximum(), 0);
   const int room = 385 - List().verticalScrollBar()->sizeHint().width();
   const CountOfPaintings paintings(*List().viewport());
@@ -79,6 +82,16 @@ TEST_F(Lists, BytesThatAreNoTextShowAsSuch) {
   const auto* const model = List("lbExact").model();
   EXPECT_EQ(model->index(0, 0).data().toString(), QString::fromUtf8("\uFFFD&"));
   EXPECT_EQ(model->index(0, 1).data().toString(), QString::fromUtf8("&S\uFFFD"));
+}
+
+TEST(BeginningOfAText, IsCutBetweenCharacters) {
+  const framework::String text("a\u00E9\u20AC\U0001F3B5");  // of one, two, three and four bytes
+  for (const auto& [most, bytes] : {std::pair(3U, 3), {4, 3}, {5, 3}, {6, 6}, {9, 6}, {10, 10}}) {
+    EXPECT_EQ(toolkit::qt::Shown(text, most).toUtf8(), QByteArray(text.View().data(), bytes))
+        << most;
+  }
+  EXPECT_EQ(toolkit::qt::Shown(framework::String(std::string(9, '\x80')), 5).size(), 2)
+      << "no text";
 }
 
 TEST_F(Lists, TextWithLineBreaksStandsOnOneLine) {

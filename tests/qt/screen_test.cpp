@@ -94,6 +94,26 @@ TEST_F(Screen, CaptionRunsOnAsFarAsItsNeighbour) {
   EXPECT_EQ(Find<QLabel>("Label4").text(), "Notes");
 }
 
+TEST_F(Screen, LabelChangesItsLookWhereItStands) {
+  Open();
+  const auto label = window_->Label4();
+  QWidget& widget = Find("Label4");
+  label->TextAlign(Label::kCentre);
+  label->TextColor(Color{200, 0, 0});
+  label->Bold(true);
+  label->Italic(true);
+  EXPECT_TRUE(widget.font().italic());
+  QImage picture = widget.grab().toImage();
+  EXPECT_GE(Count(picture, QColor(200, 0, 0)), 5);
+  EXPECT_LE(std::abs(Ink(picture).center().x() - widget.width() / 2), 3);
+  label->TextAlign(Label::kLeft);
+  label->TextSize(30);
+  label->Text("i");
+  picture = widget.grab().toImage();
+  EXPECT_LE(Ink(picture).right(), widget.width() / 3)
+      << "the ink is centred of a centred text alone";
+}
+
 TEST_F(Screen, ControlsMadeLateComeOnIt) {
   Open();
   const auto star = window_->__New<window::lbStarClass>();
