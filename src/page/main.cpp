@@ -1,5 +1,6 @@
 #include <cstddef>
 
+#include "framework/events/run_loop.h"
 #include "page/own_library.h"
 #include "shell/start_up.h"
 #include "toolkit/web/web_toolkit.h"
@@ -7,11 +8,14 @@
 int main() {
   // The browser ends the program, in mid-run: this goes down with it.
   static toolkit::web::WebToolkit toolkit;
-  page::TakeLibrary();
-  if (page::IsCheck()) {
-    page::TellOfLibrary();
-    return 0;
-  }
+  bool ready = false;
+  framework::RunLoopApplication::_CallFunctionWithExceptionHandling([&ready] {
+    page::TakeLibrary();
+    if (page::IsCheck()) page::TellOfLibrary();
+    ready = true;
+  });
+  if (!ready) return 1;  // the library is too large for the memory, which is told
+  if (page::IsCheck()) return 0;
   const int status = shell::main();
   toolkit::web::WebToolkit::ShowEnd();
   return status;

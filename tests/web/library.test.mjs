@@ -114,6 +114,17 @@ testIn('Chromium', 'what cannot be taken leaves the library that is in use, and 
   await expectReport(basename(mine), inUse);
 });
 
+testIn('Chromium', 'a library too large for the memory is told of, and ends the program', async (hand) => {
+  await hand.page.puppet.evaluateOnNewDocument(() => {
+    WebAssembly.Memory.prototype.grow = () => { throw new RangeError('no memory'); };
+  });
+  await hand.open(pageOn(fourScales));
+  await hand.tick(0);
+  await hand.drop(file('mine.csv', library(`${major}\n`.repeat(200_000))));
+  await expectTold(hand, [/^OutOfMemoryException: The system has no memory left\./]);
+  await hand.page.puppet.waitForSelector('#ended', { visible: true });
+});
+
 testIn('Chromium', 'of two libraries dropped in a row the last one stays', async (hand) => {
   await hand.open(pageOn(fourScales));
   await hand.page.run((texts) => {
